@@ -1,0 +1,55 @@
+#include <random>
+
+#include <simdjson.h>
+
+#include "benchmarks/recommend/Documents.h"
+#include "benchmarks/recommend/Pipelines.h"
+#include "core/BuildConfiguration.h"
+#include "core/Endpoints.h"
+#include "platform/Random.h"
+#include "platform/net/JSONReader.h"
+#include "recommend/KVXAppRecommendation.h"
+#include "recommend/RecommenderDocument.h"
+#include "recommend/Recommending.h"
+
+namespace wrenvale::benchmark {
+
+namespace {
+
+class SeededRandom final : public platform::Random {
+public:
+  std::uint32_t arc4random() override { return static_cast<std::uint32_t>(engine_()); }
+
+private:
+  std::mt19937 engine_;
+};
+
+} // namespace
+
+std::size_t framework(std::string text) {
+  const Endpoints endpoints({.vendorBase = "http://vendor.example",
+                             .storeHost = {},
+                             .publicKey = {},
+                             .vendorSiteName = {}});
+  SeededRandom random;
+  const recommend::Context context{.iconBase = endpoints.icon(""),
+                                   .host = {.bundleID = kHost, .bundleVersion = kBuild},
+                                   .isInstalled = isInstalled,
+                                   .purchaseRecord = [] { return false; },
+                                   .purchases = [] { return Value(); },
+                                   .random = random};
+  auto parsed = platform::JSONReader().JSONObjectWithData(std::move(text));
+  if (!parsed.object) return 0;
+  const recommend::RecommenderDocument document(std::move(*parsed.object));
+  const auto list = recommend::recommendations(document, context);
+  return list ? list->size() : 0;
+}
+
+std::size_t bareParse(std::string text) {
+  simdjson::dom::parser parser;
+  simdjson::dom::element root;
+  text.reserve(text.size() + simdjson::SIMDJSON_PADDING);
+  return parser.parse(text).get(root) ? 1 : 0;
+}
+
+} // namespace wrenvale::benchmark

@@ -1,0 +1,86 @@
+#include "core/Endpoints.h"
+
+#include <initializer_list>
+
+#include "core/BuildConfiguration.h"
+#include "core/Value.h"
+
+namespace wrenvale {
+
+namespace {
+
+constexpr std::string_view kReset = "/store/reset_%@.json";
+constexpr std::string_view kRecommender = "/store/recommender_%@%@.json";
+constexpr std::string_view kIcon = "/store/images/%@";
+constexpr std::string_view kNewsletter = "/store/newsletter/index_%@.html";
+constexpr std::string_view kSubscribe = "/store/subscribe.php?data=%@";
+constexpr std::string_view kMoreApps = "/app_redirect/moreapps_%@";
+constexpr std::string_view kGeneralSupport = "/app_redirect/support_%@";
+constexpr std::string_view kSupport = "/app_redirect/support_%@/%@";
+constexpr std::string_view kTwitter = "/app_redirect/twitter";
+constexpr std::string_view kStore = "macappstore://%@/us/app/id%@?mt=12";
+
+// The template with each "%@" replaced in order. What is put in is not looked at again.
+std::string filled(std::string_view pattern, std::initializer_list<std::string_view> values) {
+  std::string result;
+  for (const auto value : values) {
+    const auto place = pattern.find("%@");
+    result.append(pattern.substr(0, place)).append(value);
+    pattern.remove_prefix(place + 2);
+  }
+  return result.append(pattern);
+}
+
+} // namespace
+
+Endpoints::Endpoints(const BuildConfiguration& configuration)
+    : vendorBase_(configuration.vendorBase)
+    , storeHost_(configuration.storeHost) {}
+
+std::string Endpoints::resetDocument(std::string_view localeSuffix) const {
+  return vendorBase_ + filled(kReset, {localeSuffix});
+}
+
+std::string Endpoints::recommenderDocument(std::string_view localeSuffix,
+                                           std::string_view variant) const {
+  return vendorBase_ + filled(kRecommender, {localeSuffix, variant});
+}
+
+std::string Endpoints::icon(const std::optional<std::string>& fileName) const {
+  return vendorBase_ + filled(kIcon, {formatted(fileName)});
+}
+
+std::string Endpoints::newsletterPage(std::string_view country) const {
+  return vendorBase_ + filled(kNewsletter, {country});
+}
+
+std::string Endpoints::subscription(const std::optional<std::string>& data) const {
+  return vendorBase_ + filled(kSubscribe, {formatted(data)});
+}
+
+std::string Endpoints::moreApps(std::string_view localeSuffix) const {
+  return vendorBase_ + filled(kMoreApps, {localeSuffix});
+}
+
+std::string Endpoints::generalSupport(std::string_view localeSuffix) const {
+  return vendorBase_ + filled(kGeneralSupport, {localeSuffix});
+}
+
+std::string Endpoints::support(std::string_view localeSuffix,
+                               const std::optional<std::string>& bundleID) const {
+  return vendorBase_ + filled(kSupport, {localeSuffix, formatted(bundleID)});
+}
+
+std::string Endpoints::twitter() const {
+  return vendorBase_ + std::string(kTwitter);
+}
+
+std::string Endpoints::webSite() const {
+  return vendorBase_;
+}
+
+std::string Endpoints::storePage(const std::optional<std::string>& appstoreID) const {
+  return filled(kStore, {storeHost_, formatted(appstoreID)});
+}
+
+} // namespace wrenvale

@@ -1,0 +1,37 @@
+// The host's identity, read from its Info dictionary and the user's locale.
+
+#ifndef WRENVALE_CORE_IDENTITY_H
+#define WRENVALE_CORE_IDENTITY_H
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "core/Value.h"
+
+namespace wrenvale {
+
+namespace platform {
+class Locale;
+}
+
+namespace info {
+inline constexpr std::string_view kIdentifier = "CFBundleIdentifier";
+inline constexpr std::string_view kVersion = "CFBundleVersion";
+inline constexpr std::string_view kName = "CFBundleName";
+inline constexpr std::string_view kAppstoreID = "Appstore ID";
+} // namespace info
+
+/// A store identifier as text: a number's decimal digits, a string as it stands.
+std::optional<std::string> appstoreIDFromInfo(const Value& value);
+
+/// Country and language as the vendor's file names carry them, such as "US_en" or "CH_fr-CH". Each
+/// half is "EN" when the locale lacks it.
+std::string localeSuffix(const platform::Locale& locale);
+
+/// The locale's country as the newsletter page's name carries it; "EN" when it has none.
+std::string countryOrFallback(const platform::Locale& locale);
+
+} // namespace wrenvale
+
+#endif

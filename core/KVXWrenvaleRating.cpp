@@ -1,0 +1,160 @@
+// The service's rating prompts: the triggers, the rate window's sessions, the alert, and the pages
+// that they lead to.
+
+#include <wrenvale/KVXWrenvale.h>
+
+#include <utility>
+
+#include "core/Endpoints.h"
+#include "core/Guard.h"
+#include "core/Identity.h"
+#include "core/PersistedKeys.h"
+#include "platform/Platform.h"
+#include "rating/KVXRateWindowController.h"
+#include "rating/RatingPolicy.h"
+#include "rating/RatingRecords.h"
+
+namespace wrenvale {
+
+namespace {
+
+constexpr double kDimmed = 0.3;
+
+// Outlives the session that made it: its own last animation holds it.
+using SharedOverlay = std::shared_ptr<std::unique_ptr<platform::DimmingOverlay>>;
+
+SharedOverlay dim(platform::RateWindows& windows, HostWindow* window) {
+  const auto overlay = std::make_shared<SharedOverlay::element_type>(windows.makeOverlay(window));
+  if (*overlay) (*overlay)->animateAlpha(kDimmed, {});
+  return overlay;
+}
+
+// The dimming does not fade out but is there to the last. The overlay goes in a turn of its own, so
+// never within a call of its own.
+void removeAfterAnimation(const SharedOverlay& overlay, platform::Queue& mainQueue) {
+  if (!*overlay) return;
+  (*overlay)->animateAlpha(kDimmed, [overlay, &mainQueue] {
+    guarded([&] { mainQueue.async([overlay] { overlay->reset(); }); });
+  });
+}
+
+} // namespace
+
+bool KVXWrenvale::mayAskForRating() const {
+  return guarded([&] {
+    const Value ratings = _platform.userDefaults.objectForKey(keys::kVersionRatings);
+    return !rating::hasEntry(ratings, versionString());
+  });
+}
+
+bool KVXWrenvale::triggerRatingWithCompletitionHandler(CompletitionHandler completitionHandler) {
+  return triggerRatingWithWindow(nullptr, std::move(completitionHandler));
+}
+
+// A session over a parent is over by the time it would be marked, and so files as not triggered;
+// one that was open before, from the Help menu, is marked.
+bool KVXWrenvale::triggerRatingWithWindow(HostWindow* window,
+                                          CompletitionHandler completitionHandler) {
+  if (!mayAskForRating()) return false;
+  if (!_rateAppWithWindow(window, std::move(completitionHandler))) return false;
+  if (_rateWindowController) _rateWindowController->setTriggered(true);
+  return true;
+}
+
+// The counters are those from before the session, whatever is counted while it runs.
+bool KVXWrenvale::triggerRatingWithWindow(HostWindow* window, std::int64_t count,
+                                          CompletitionHandler completitionHandler) {
+  bool shown = false;
+  guarded([&] {
+    const auto version = versionString();
+    const Value counters = _platform.userDefaults.objectForKey(keys::kVersionCounters);
+    if (rating::counter(counters, version) == count)
+      shown = triggerRatingWithWindow(window, std::move(completitionHandler));
+    _platform.userDefaults.setObject(rating::withNextCount(counters, version),
+                                     keys::kVersionCounters);
+  });
+  return shown;
+}
+
+bool KVXWrenvale::triggerRatingWithModalAlert() {
+  if (_askingByAlert || !mayAskForRating()) return false;
+  _askingByAlert = true;
+  guarded([&] { askByAlert(); });
+  _askingByAlert = false;
+  return true;
+}
+
+// That the alert was shown is on disk before it is, should the host not survive it.
+void KVXWrenvale::askByAlert() {
+  _platform.application.activateIgnoringOtherApps(true);
+  const auto alert = rating::ratingAlert(
+      stringValue(_platform.mainBundle.objectForInfoDictionaryKey(info::kName)));
+  guarded([&] { _platform.userDefaults.setObject(versionString(), keys::kRateVersion); });
+  _platform.userDefaults.synchronize();
+  const int answer = _platform.alerts.runModal(alert);
+  if (answer == platform::kAlertDefaultReturn) openAppstoreForApp();
+  _storeRateHistory(rating::historyForAnswer(answer), _platform.clock.now(), true);
+}
+
+void KVXWrenvale::rateApp() {
+  _rateAppWithWindow(nullptr, nullptr);
+}
+
+bool KVXWrenvale::_rateAppWithWindow(HostWindow* window, CompletitionHandler completitionHandler) {
+  return guarded([&] {
+    if (_rateWindowController) {
+      bringRateWindowForward();
+      return true;
+    }
+    if (!loadRateWindow(window, std::move(completitionHandler))) return false;
+    const auto controller = _rateWindowController; // the session's end lets go of it
+    _platform.application.activateIgnoringOtherApps(true);
+    if (window) controller->window()->attachToParent(window);
+    controller->window()->makeKeyAndOrderFront();
+    if (!window) return true;
+    controller->window()->runModal();
+    controller->windowShouldClose(); // where the loop ended without the session, as when quitting
+    return true;
+  });
+}
+
+void KVXWrenvale::bringRateWindowForward() {
+  _platform.application.activateIgnoringOtherApps(true);
+  if (auto* window = _rateWindowController->window()) window->makeKeyAndOrderFront();
+}
+
+bool KVXWrenvale::loadRateWindow(HostWindow* window, CompletitionHandler completitionHandler) {
+  const auto overlay = dim(_platform.rateWindows, window);
+  _rateWindowController = std::make_shared<KVXRateWindowController>(
+      _platform, RateWindowLinks{.openAppstoreForApp = [this] { openAppstoreForApp(); },
+                                 .openSupportWebPage = [this] { openSupportWebPage(); }});
+  const bool loaded = guarded([&] {
+    _rateWindowController->setCompletitionHandler(
+        [this, modal = window != nullptr, overlay,
+         completitionHandler =
+             std::move(completitionHandler)](KVXRateWindowController& controller) {
+          if (modal) controller.window()->abortModal();
+          guarded([&] { fileSession(controller); });
+          _rateWindowController = nullptr;
+          guarded([&] { removeAfterAnimation(overlay, _platform.queues.mainQueue()); });
+          if (completitionHandler) completitionHandler();
+        });
+    return _rateWindowController->loadWindow();
+  });
+  if (!loaded) _rateWindowController = nullptr;
+  return loaded;
+}
+
+void KVXWrenvale::fileSession(const KVXRateWindowController& controller) {
+  _storeRateHistory(controller.rateHistory(), controller.date(), controller.triggered());
+}
+
+void KVXWrenvale::openAppstoreForApp() {
+  guarded([&] { _platform.workspace.openURL(_endpoints->storePage(_macAppstoreID)); });
+}
+
+void KVXWrenvale::openSupportWebPage() {
+  guarded([&] { _platform.workspace.openURL(_endpoints->support(_localeSuffix, bundleID())); });
+}
+
+} // namespace wrenvale

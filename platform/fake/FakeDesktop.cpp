@@ -1,0 +1,39 @@
+#include "platform/fake/FakeDesktop.h"
+
+namespace wrenvale::platform {
+
+std::optional<std::string> FakeLocalization::localizedInfoString(std::string_view key) const {
+  const auto found = info.find(key);
+  return found == info.end() ? std::nullopt : std::optional(found->second);
+}
+
+std::string FakeLocalization::localizedStringForKey(std::string_view key,
+                                                    std::string_view table) const {
+  const auto found = strings.find({std::string(table), std::string(key)});
+  return found == strings.end() ? std::string(key) : found->second;
+}
+
+void FakeApplication::observeDidFinishLaunching(std::function<void()> handler) {
+  launchHandlers_.push_back(std::move(handler));
+}
+
+void FakeApplication::activateIgnoringOtherApps(bool) {
+  ++activations;
+}
+
+bool FakeApplication::registerFont(std::string_view resource, std::string_view extension) {
+  fonts.push_back(std::string(resource) + "." + std::string(extension));
+  return hasFonts;
+}
+
+void FakeApplication::finishLaunching() {
+  for (const auto& handler : std::exchange(launchHandlers_, {}))
+    handler();
+}
+
+bool FakeWorkspace::openURL(std::string_view url) {
+  opened.emplace_back(url);
+  return hasOpener;
+}
+
+} // namespace wrenvale::platform

@@ -1,0 +1,61 @@
+// In-memory stand-ins for the running application and the desktop around it.
+
+#ifndef WRENVALE_PLATFORM_FAKE_FAKEDESKTOP_H
+#define WRENVALE_PLATFORM_FAKE_FAKEDESKTOP_H
+
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "platform/Application.h"
+#include "platform/MainBundle.h"
+#include "platform/Workspace.h"
+
+namespace wrenvale::platform {
+
+class FakeLocalization : public Localization {
+public:
+  std::optional<std::string> localizedInfoString(std::string_view key) const override;
+  std::string localizedStringForKey(std::string_view key, std::string_view table) const override;
+
+  std::map<std::string, std::string, std::less<>> info;
+  std::map<std::pair<std::string, std::string>, std::string> strings; ///< by table and key
+};
+
+/// Thrown by FakeApplication::terminate() in place of ending the process.
+struct FakeTermination {
+  int status;
+};
+
+class FakeApplication : public Application {
+public:
+  void observeDidFinishLaunching(std::function<void()> handler) override;
+  void activateIgnoringOtherApps(bool flag) override;
+  void beep() override { ++beeps; }
+  bool registerFont(std::string_view resource, std::string_view extension) override;
+  [[noreturn]] void terminate(int status) override { throw FakeTermination{status}; }
+
+  /// The host's launch event.
+  void finishLaunching();
+
+  int activations = 0;
+  int beeps = 0;
+  bool hasFonts = true;
+  std::vector<std::string> fonts; ///< file names asked for, in order
+
+private:
+  std::vector<std::function<void()>> launchHandlers_;
+};
+
+class FakeWorkspace : public Workspace {
+public:
+  bool openURL(std::string_view url) override;
+
+  std::vector<std::string> opened;
+  bool hasOpener = true;
+};
+
+} // namespace wrenvale::platform
+
+#endif

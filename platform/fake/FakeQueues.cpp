@@ -1,0 +1,49 @@
+#include "platform/fake/FakeQueues.h"
+
+#include <utility>
+
+namespace wrenvale::platform {
+
+namespace {
+
+class ForwardingQueue final : public Queue {
+public:
+  explicit ForwardingQueue(Queue& target)
+      : target_(target) {}
+  void async(Task task) override { target_.async(std::move(task)); }
+
+private:
+  Queue& target_;
+};
+
+} // namespace
+
+bool FakeQueue::step() {
+  if (tasks_.empty()) return false;
+  const Task task = std::move(tasks_.front());
+  tasks_.pop_front();
+  try {
+    task();
+  } catch (const std::exception&) {
+    // As the contract says: dropped.
+  }
+  return true;
+}
+
+std::size_t FakeQueue::run() {
+  std::size_t count = 0;
+  while (step())
+    ++count;
+  return count;
+}
+
+std::unique_ptr<Queue> FakeQueues::makeSerialQueue() {
+  return std::make_unique<ForwardingQueue>(serial);
+}
+
+void FakeQueues::runAll() {
+  while (global.run() + serial.run() + main.run() > 0) {
+  }
+}
+
+} // namespace wrenvale::platform

@@ -1,0 +1,44 @@
+// Queues that run when the test says so, all on the test's own thread.
+
+#ifndef WRENVALE_PLATFORM_FAKE_FAKEQUEUES_H
+#define WRENVALE_PLATFORM_FAKE_FAKEQUEUES_H
+
+#include <deque>
+#include <memory>
+
+#include "platform/Queue.h"
+
+namespace wrenvale::platform {
+
+class FakeQueue : public Queue {
+public:
+  void async(Task task) override { tasks_.push_back(std::move(task)); }
+
+  std::size_t size() const { return tasks_.size(); }
+  /// Runs the oldest task; false when there was none.
+  bool step();
+  /// Runs tasks, the ones that they add too, until none is left; returns how many.
+  std::size_t run();
+
+private:
+  std::deque<Task> tasks_;
+};
+
+class FakeQueues : public Queues {
+public:
+  FakeQueue& mainQueue() override { return main; }
+  FakeQueue& globalQueue() override { return global; }
+  /// All serial queues share `serial`'s tasks, in the order in which they were submitted.
+  std::unique_ptr<Queue> makeSerialQueue() override;
+
+  /// Runs background tasks, then main-queue tasks, until all queues are empty.
+  void runAll();
+
+  FakeQueue main;
+  FakeQueue global;
+  FakeQueue serial;
+};
+
+} // namespace wrenvale::platform
+
+#endif

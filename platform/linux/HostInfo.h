@@ -1,0 +1,25 @@
+// What wrenvale_host() compiled into the executable.
+
+#ifndef WRENVALE_PLATFORM_LINUX_HOSTINFO_H
+#define WRENVALE_PLATFORM_LINUX_HOSTINFO_H
+
+#include <string_view>
+
+/// The layout is shared with the source that wrenvale_host() writes, and with every host built
+/// before: never change it.
+struct WrenvaleHostInfo {
+  const unsigned char* infoPlist;
+  const unsigned long* infoPlistSize;
+  void (*link)();
+};
+
+namespace wrenvale::platform {
+
+/// The bytes of the host's Info dictionary, a property list; empty when the host has none. They are
+/// constant data of the executable: there before its first constructor runs and for as long as the
+/// process lives. Any thread.
+std::string_view hostInfoPlist();
+
+} // namespace wrenvale::platform
+
+#endif

@@ -1,0 +1,29 @@
+// Taking apart the short texts that the system's files and variables hold.
+
+#ifndef WRENVALE_PLATFORM_LINUX_TEXT_H
+#define WRENVALE_PLATFORM_LINUX_TEXT_H
+
+#include <algorithm>
+#include <string_view>
+
+namespace wrenvale::platform {
+
+/// Takes the text up to the first of the `separators` (a character, or a text of several) off
+/// `text`, and that separator with it; all of the text when there is none.
+inline std::string_view takeUpTo(auto separators, std::string_view& text) {
+  const auto end = std::min(text.find_first_of(separators), text.size());
+  const auto result = text.substr(0, end);
+  text.remove_prefix(std::min(end + 1, text.size()));
+  return result;
+}
+
+/// The text without white space and zero bytes around it.
+inline std::string_view trimmed(std::string_view text) {
+  constexpr std::string_view kBlank(" \t\n\v\f\r\0", 7);
+  text.remove_prefix(std::min(text.find_first_not_of(kBlank), text.size()));
+  return text.substr(0, text.find_last_not_of(kBlank) + 1);
+}
+
+} // namespace wrenvale::platform
+
+#endif

@@ -1,0 +1,29 @@
+#include "platform/NetModule.h"
+
+#include <wrenvale/Export.h>
+
+#include "platform/net/JSONReader.h"
+#include "platform/net/OpenSSLEncryption.h"
+#include "platform/net/QtURLLoading.h"
+
+namespace wrenvale::platform {
+
+namespace {
+
+struct Parts {
+  QtURLLoading urlLoading;
+  OpenSSLEncryption encryption;
+  JSONReader json;
+  NetModule module{.urlLoading = urlLoading, .encryption = encryption, .json = json};
+};
+
+} // namespace
+
+} // namespace wrenvale::platform
+
+extern "C" WRENVALE_EXPORT const wrenvale::platform::NetModule* wrenvale_net_module();
+
+extern "C" const wrenvale::platform::NetModule* wrenvale_net_module() {
+  static const auto& parts = *new wrenvale::platform::Parts;
+  return &parts.module;
+}

@@ -1,0 +1,52 @@
+#include "platform/qt/LaunchEvent.h"
+
+#include <utility>
+#include <vector>
+
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
+#include <QThread>
+
+namespace wrenvale::platform {
+
+namespace {
+
+// Handlers that still wait. Main thread only, or before there is any other.
+std::vector<std::function<void()>>& waiting() {
+  static auto& handlers = *new std::vector<std::function<void()>>;
+  return handlers;
+}
+
+void launch() {
+  for (const auto& handler : std::exchange(waiting(), {}))
+    handler();
+}
+
+// One turn of the main thread's dispatcher; inside a loop it is the host's launch. The handlers run
+// from the loop itself, not from within its dispatcher.
+void turn(QObject* connections) {
+  if (QThread::currentThread()->loopLevel() == 0) return;
+  connections->deleteLater();
+  QObject::disconnect(QAbstractEventDispatcher::instance(), nullptr, connections, nullptr);
+  QMetaObject::invokeMethod(QCoreApplication::instance(), launch, Qt::QueuedConnection);
+}
+
+// Runs whenever the host has created an application object.
+void watchDispatcher() {
+  auto* dispatcher = QAbstractEventDispatcher::instance();
+  if (waiting().empty() || !dispatcher) return;
+  auto* connections = new QObject(dispatcher);
+  const auto onTurn = [connections] { turn(connections); };
+  // One of the two comes first in every kind of dispatcher.
+  QObject::connect(dispatcher, &QAbstractEventDispatcher::awake, connections, onTurn);
+  QObject::connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, connections, onTurn);
+}
+
+} // namespace
+
+void callWhenLaunched(std::function<void()> handler) {
+  if (waiting().empty()) qAddPreRoutine(watchDispatcher);
+  waiting().push_back(std::move(handler));
+}
+
+} // namespace wrenvale::platform

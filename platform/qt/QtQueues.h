@@ -1,0 +1,49 @@
+// The built-in queues: the main queue on Qt's event loop, the background ones on threads.
+
+#ifndef WRENVALE_PLATFORM_QT_QTQUEUES_H
+#define WRENVALE_PLATFORM_QT_QTQUEUES_H
+
+#include "platform/Queue.h"
+#include "platform/URLLoading.h"
+#include "platform/qt/BackgroundThreads.h"
+#include "platform/qt/MainQueue.h"
+
+namespace wrenvale::platform {
+
+/// Lives until the process ends. When the host's application object goes, or the process exits, no
+/// further task begins and downloads under way are given up; that holds the exit up by 100 ms at
+/// the most.
+class QtQueues : public Queues {
+public:
+  explicit QtQueues(URLLoading& urlLoading)
+      : urlLoading_(urlLoading) {}
+
+  MainQueue& mainQueue() override { return mainQueue_; }
+  Queue& globalQueue() override { return globalQueue_; }
+  std::unique_ptr<Queue> makeSerialQueue() override;
+
+  /// The host's event loop runs from now on. Main thread only.
+  void start();
+  /// The process is ending. More than one call does no harm.
+  void end();
+
+private:
+  class GlobalQueue final : public Queue {
+  public:
+    explicit GlobalQueue(BackgroundThreads& threads)
+        : threads_(threads) {}
+    void async(Task task) override { threads_.run(std::move(task)); }
+
+  private:
+    BackgroundThreads& threads_;
+  };
+
+  URLLoading& urlLoading_;
+  BackgroundThreads threads_;
+  MainQueue mainQueue_;
+  GlobalQueue globalQueue_{threads_};
+};
+
+} // namespace wrenvale::platform
+
+#endif

@@ -1,0 +1,184 @@
+#include "platform/qt/RateWindowWidget.h"
+
+#include <utility>
+
+#include <QCloseEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QScreen>
+#include <QTimer>
+
+#include <ui_RateWindow.h>
+
+#include "platform/qt/PushTransition.h"
+
+namespace wrenvale::platform {
+
+namespace {
+
+constexpr int kSmallestWidth = 440;
+constexpr QRgb kBorder = 0xffc3c9d3;
+// A window manager that insists on another place wins in the end.
+constexpr int kMostReturns = 20;
+constexpr int kReturnDelay = 80; // milliseconds, so that a drag ends first
+
+const Qt::WindowFlags kOrdinaryFlags = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                       Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint;
+// A hint at a close button would bring the frame back.
+const Qt::WindowFlags kAttachedFlags = Qt::Dialog | Qt::FramelessWindowHint;
+
+QString withName(QString text, const QString& name) {
+  return text.replace("%1", name);
+}
+
+} // namespace
+
+RateWindowWidget::RateWindowWidget(Events events)
+    : QWidget(nullptr, kOrdinaryFlags)
+    , events_(std::move(events))
+    , ui_(std::make_unique<Ui::RateWindow>())
+    , push_((ui_->setupUi(this), new PushTransition(*ui_->bottomContainerView))) {
+  setObjectName("Rate Window");
+  setAttribute(Qt::WA_QuitOnClose, false);
+  ui_->closeButton->hide();
+  connect(ui_->closeButton, &QAbstractButton::clicked, this, [this] { close(); });
+  connectButton(*ui_->likeButton, RateButton::kLike);
+  connectButton(*ui_->dislikeButton, RateButton::kDislike);
+  connectButton(*ui_->appstoreButton, RateButton::kAppstore);
+  connectButton(*ui_->contactButton, RateButton::kContact);
+  fillInTexts();
+  setFocus();
+}
+
+RateWindowWidget::~RateWindowWidget() {
+  events_.destroyed();
+}
+
+FaceView& RateWindowWidget::imageView() {
+  return *ui_->imageView;
+}
+
+void RateWindowWidget::setAppName(const QString& appName) {
+  appName_ = appName;
+  fillInTexts();
+}
+
+void RateWindowWidget::setView(RateView view, bool pushed) {
+  QWidget* const views[] = {ui_->rateView, ui_->appstoreView, ui_->contactView};
+  QWidget* next = views[static_cast<int>(view)];
+  if (pushed && isVisible())
+    push_->push(*next);
+  else
+    ui_->bottomContainerView->setCurrentWidget(next);
+}
+
+void RateWindowWidget::connectButton(QPushButton& button, RateButton name) {
+  connect(&button, &QAbstractButton::clicked, this, [this, &button, name] {
+    if (!push_->isUnderWay() && isInPresentView(button)) events_.pressed(name);
+  });
+  button.installEventFilter(this);
+  button.setProperty("rateButton", static_cast<int>(name));
+}
+
+bool RateWindowWidget::isInPresentView(const QWidget& widget) const {
+  return ui_->bottomContainerView->currentWidget()->isAncestorOf(&widget);
+}
+
+bool RateWindowWidget::eventFilter(QObject* watched, QEvent* event) {
+  const bool enters = event->type() == QEvent::Enter;
+  if ((enters || event->type() == QEvent::Leave) && isVisible() &&
+      isInPresentView(*static_cast<QWidget*>(watched)))
+    events_.hovered(static_cast<RateButton>(watched->property("rateButton").toInt()), enters);
+  return false;
+}
+
+// The layout's texts have the application's name as "%1".
+void RateWindowWidget::fillInTexts() {
+  ui_->retranslateUi(this);
+  setWindowTitle(withName(windowTitle(), appName_));
+  for (auto* label : findChildren<QLabel*>())
+    label->setText(withName(label->text(), appName_));
+  for (auto* button : findChildren<QPushButton*>()) {
+    button->setText(withName(button->text(), QString(appName_).replace('&', "&&")));
+    button->setAccessibleDescription(withName(button->accessibleDescription(), appName_));
+  }
+  fit();
+}
+
+// The hidden views count too, though layouts hear nothing of what changes in hidden widgets.
+void RateWindowWidget::remeasure() {
+  for (auto* widget : findChildren<QWidget*>())
+    widget->ensurePolished();
+  for (auto* view : {ui_->rateView, ui_->appstoreView, ui_->contactView}) {
+    view->layout()->invalidate();
+    view->layout()->activate();
+  }
+  ui_->bottomContainerView->updateGeometry();
+  layout()->activate();
+}
+
+// Wrapped texts need a height that depends on the width, which windows do not see to by themselves.
+void RateWindowWidget::fit() {
+  remeasure();
+  const int width = qMax(kSmallestWidth, layout()->totalMinimumSize().width());
+  setFixedSize(width, layout()->totalHeightForWidth(width));
+  if (parent_) place();
+}
+
+void RateWindowWidget::follow(QWidget& parent) {
+  setWindowFlags(kAttachedFlags);
+  ui_->closeButton->show();
+  parent_ = &parent;
+  fit();
+}
+
+QPoint RateWindowWidget::placeOf() const {
+  const QRect around = parent_ ? parent_->frameGeometry() : screen()->availableGeometry();
+  const QSize outer = frameGeometry().size();
+  return around.topLeft() +
+         QPoint((around.width() - outer.width()) / 2, (around.height() - outer.height()) / 2);
+}
+
+void RateWindowWidget::place() {
+  returnsLeft_ = kMostReturns;
+  move(placeOf());
+}
+
+void RateWindowWidget::moveEvent(QMoveEvent*) {
+  if (parent_ && isVisible() && pos() != placeOf())
+    QTimer::singleShot(kReturnDelay, this, [this] { returnToPlace(); });
+}
+
+void RateWindowWidget::returnToPlace() {
+  if (parent_ && pos() != placeOf() && returnsLeft_-- > 0) move(placeOf());
+}
+
+void RateWindowWidget::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (event->type() == QEvent::LanguageChange) fillInTexts();
+}
+
+void RateWindowWidget::closeEvent(QCloseEvent* event) {
+  event->setAccepted(events_.mayClose());
+}
+
+void RateWindowWidget::hideEvent(QHideEvent* event) {
+  if (!event->spontaneous()) events_.hidden();
+}
+
+void RateWindowWidget::keyPressEvent(QKeyEvent* event) {
+  if (event->matches(QKeySequence::Cancel) || event->matches(QKeySequence::Close))
+    close();
+  else
+    QWidget::keyPressEvent(event);
+}
+
+void RateWindowWidget::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.fillRect(rect(), Qt::white);
+  if (!parent_) return;
+  painter.setPen(QColor(kBorder));
+  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+} // namespace wrenvale::platform

@@ -1,0 +1,129 @@
+#include "rating/KVXRateWindowController.h"
+
+#include <utility>
+
+#include <wrenvale/KVXWrenvale.h>
+
+#include "core/Guard.h"
+#include "core/Identity.h"
+#include "platform/Platform.h"
+#include "rating/RatingRecords.h"
+
+namespace wrenvale {
+
+using platform::RateButton;
+using platform::RateView;
+
+namespace {
+
+// The view that holds the button.
+RateView viewOf(RateButton button) {
+  switch (button) {
+  case RateButton::kAppstore:
+    return RateView::kAppstore;
+  case RateButton::kContact:
+    return RateView::kContact;
+  default:
+    return RateView::kRate;
+  }
+}
+
+} // namespace
+
+KVXRateWindowController::KVXRateWindowController(const platform::Platform& platform,
+                                                 RateWindowLinks links)
+    : _platform(platform)
+    , _links(std::move(links)) {}
+
+bool KVXRateWindowController::loadWindow() {
+  _window = _platform.rateWindows.makeRateWindow(*this);
+  if (!_window) return false;
+  _date = _platform.clock.now();
+  for (auto mood = kRateNeutral; mood <= kRateLike; ++mood)
+    _window->loadImage(mood, "smile-" + std::to_string(mood));
+  _window->addTrackingArea(RateButton::kDislike, kRateDislike);
+  _window->addTrackingArea(RateButton::kLike, kRateLike);
+  _update();
+  _setView(RateView::kRate);
+  _appName = hostName();
+  _window->setAppName(_appName.value_or(""));
+  return true;
+}
+
+std::optional<std::string> KVXRateWindowController::hostName() const {
+  auto name = _platform.localization.localizedInfoString(info::kName);
+  return name ? name : stringValue(_platform.mainBundle.objectForInfoDictionaryKey(info::kName));
+}
+
+void KVXRateWindowController::setCompletitionHandler(CompletitionHandler completitionHandler) {
+  _completitionHandler = std::move(completitionHandler);
+}
+
+void KVXRateWindowController::_setView(RateView view) {
+  _window->setView(view, _currentView.has_value());
+  _currentView = view;
+}
+
+void KVXRateWindowController::_update() {
+  _window->showImage(_imageMode);
+}
+
+void KVXRateWindowController::mouseEntered(std::int64_t mode) {
+  if (mode == _imageMode) return;
+  _imageMode = mode;
+  guarded([&] { _update(); });
+}
+
+void KVXRateWindowController::mouseExited(std::int64_t mode) {
+  if (mode != _imageMode) return;
+  _imageMode = kRateNeutral;
+  guarded([&] { _update(); });
+}
+
+void KVXRateWindowController::buttonAction(RateButton sender) {
+  const auto self = shared_from_this();
+  if (_ended || viewOf(sender) != _currentView) return;
+  guarded([&] {
+    switch (sender) {
+    case RateButton::kLike:
+      _addHistory(rating::kLiked);
+      return _setView(RateView::kAppstore);
+    case RateButton::kDislike:
+      _addHistory(rating::kDisliked);
+      return _setView(RateView::kContact);
+    case RateButton::kAppstore:
+      return endWith(rating::kRatedInStore, _links.openAppstoreForApp);
+    case RateButton::kContact:
+      return endWith(rating::kContactedSupport, _links.openSupportWebPage);
+    }
+  });
+}
+
+// The end is marked first: whatever opening the link or the handler brings about, be it the close
+// button in an event loop of their own, adds nothing to the session.
+void KVXRateWindowController::endWith(std::int64_t code, const std::function<void()>& link) {
+  _ended = true;
+  _addHistory(code);
+  guarded(link);
+  _executeCompletitionHandler();
+  _window->close();
+}
+
+bool KVXRateWindowController::windowShouldClose() {
+  const auto self = shared_from_this();
+  if (std::exchange(_ended, true)) return true;
+  guarded([&] { _addHistory(rating::kDismissed); });
+  _executeCompletitionHandler();
+  return true;
+}
+
+void KVXRateWindowController::_addHistory(std::int64_t code) {
+  _rateHistory.push_back(code);
+}
+
+void KVXRateWindowController::_executeCompletitionHandler() {
+  const auto handler = std::exchange(_completitionHandler, nullptr);
+  if (handler) guarded([&] { handler(*this); });
+}
+
+} // namespace wrenvale

@@ -1,0 +1,37 @@
+// The order of the recommendations, and which of them are kept.
+
+#ifndef WRENVALE_RECOMMEND_RANKING_H
+#define WRENVALE_RECOMMEND_RANKING_H
+
+#include <memory>
+#include <vector>
+
+namespace wrenvale {
+
+class KVXAppRecommendation;
+
+namespace platform {
+class Random;
+}
+
+namespace recommend {
+
+class Trace;
+
+/// Best first.
+using Recommendations = std::vector<std::shared_ptr<KVXAppRecommendation>>;
+
+/// Sorts by points, the highest first. Records with equal points come in random order: every
+/// comparison of two such records is a toss of its own, so the same two may be ordered differently
+/// each time that they meet.
+void sortByPoints(Recommendations& recommendations, platform::Random& random);
+
+/// The sorted list with only the first record of each group. A record without a group stays; groups
+/// are compared exactly.
+Recommendations onePerGroup(Recommendations sorted, Trace* trace = nullptr);
+
+} // namespace recommend
+
+} // namespace wrenvale
+
+#endif

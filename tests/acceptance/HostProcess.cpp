@@ -1,0 +1,103 @@
+#include "tests/acceptance/HostProcess.h"
+
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <fstream>
+#include <iterator>
+
+#include "platform/linux/PropertyList.h"
+
+extern char** environ;
+
+namespace wrenvale::tests {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string contents(const fs::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+std::vector<char*> pointers(std::vector<std::string>& texts) {
+  std::vector<char*> result;
+  for (auto& text : texts)
+    result.push_back(text.data());
+  result.push_back(nullptr);
+  return result;
+}
+
+std::vector<std::string> environmentOf(const fs::path& home,
+                                       const std::map<std::string, std::string>& changes) {
+  std::map<std::string, std::string> variables;
+  for (char** entry = environ; *entry; ++entry) {
+    const std::string text = *entry;
+    variables[text.substr(0, text.find('='))] = text.substr(text.find('=') + 1);
+  }
+  variables["HOME"] = home;
+  variables["XDG_CONFIG_HOME"] = home / "config";
+  variables["XDG_DATA_HOME"] = home / "data";
+  variables["QT_QPA_PLATFORM"] = "offscreen";
+  variables["LC_ALL"] = "en_US.UTF-8";
+  variables["LANGUAGE"] = "";
+  for (const auto& [name, value] : changes)
+    variables[name] = value;
+  std::vector<std::string> result;
+  for (const auto& [name, value] : variables)
+    result.push_back(name + "=" + value);
+  return result;
+}
+
+} // namespace
+
+Home::Home() {
+  std::string pattern = fs::temp_directory_path() / "wrenvale-home-XXXXXX";
+  folder_ = mkdtemp(pattern.data());
+}
+
+Home::~Home() {
+  std::error_code ignored;
+  fs::remove_all(folder_, ignored);
+}
+
+Run Home::run(const std::string& program, std::vector<std::string> arguments,
+              const std::map<std::string, std::string>& environment) const {
+  const auto out = folder_ / "output";
+  const auto errors = folder_ / "errors";
+  posix_spawn_file_actions_t actions;
+  posix_spawn_file_actions_init(&actions);
+  constexpr int flags = O_WRONLY | O_CREAT | O_TRUNC;
+  posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, out.c_str(), flags, 0600);
+  posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, errors.c_str(), flags, 0600);
+  arguments.insert(arguments.begin(), program);
+  auto variables = environmentOf(folder_, environment);
+
+  Run run;
+  const auto start = std::chrono::steady_clock::now();
+  pid_t process = -1;
+  int state = 0;
+  if (posix_spawn(&process, program.c_str(), &actions, nullptr, pointers(arguments).data(),
+                  pointers(variables).data()) == 0 &&
+      waitpid(process, &state, 0) == process)
+    run.status = WIFEXITED(state) ? WEXITSTATUS(state) : 1000 + WTERMSIG(state);
+  run.time = std::chrono::duration_cast<std::chrono::milliseconds>(
+      std::chrono::steady_clock::now() - start);
+  posix_spawn_file_actions_destroy(&actions);
+  run.output = contents(out);
+  run.errors = contents(errors);
+  return run;
+}
+
+fs::path Home::settings(const std::string& identifier) const {
+  return folder_ / "config" / identifier / "defaults.plist";
+}
+
+Value Home::defaults(const std::string& identifier) const {
+  return platform::valueFromPropertyList(contents(settings(identifier))).value_or(Value());
+}
+
+} // namespace wrenvale::tests

@@ -1,0 +1,45 @@
+// Starting a real host, with a home and settings of its own.
+
+#ifndef WRENVALE_TESTS_ACCEPTANCE_HOSTPROCESS_H
+#define WRENVALE_TESTS_ACCEPTANCE_HOSTPROCESS_H
+
+#include <chrono>
+#include <filesystem>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "core/Value.h"
+
+namespace wrenvale::tests {
+
+struct Run {
+  int status = -1; ///< exit status, or 1000 plus the signal that ended the process
+  std::string output;
+  std::string errors;
+  std::chrono::milliseconds time{};
+};
+
+/// A user's home directory in a temporary folder, removed at the end.
+class Home {
+public:
+  Home();
+  ~Home();
+  Home(const Home&) = delete;
+  Home& operator=(const Home&) = delete;
+
+  /// Runs a program to its end as this user, in an American English locale and without a display.
+  Run run(const std::string& program, std::vector<std::string> arguments = {},
+          const std::map<std::string, std::string>& environment = {}) const;
+
+  std::filesystem::path settings(const std::string& identifier) const;
+  /// The settings as they are on disk; null when there is no readable file.
+  Value defaults(const std::string& identifier) const;
+
+private:
+  std::filesystem::path folder_;
+};
+
+} // namespace wrenvale::tests
+
+#endif

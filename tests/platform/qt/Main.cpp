@@ -1,0 +1,13 @@
+// The tests' application object: real widgets, offscreen unless the environment says otherwise.
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+
+int main(int argc, char** argv) {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  testing::InitGoogleMock(&argc, argv);
+  return RUN_ALL_TESTS();
+}

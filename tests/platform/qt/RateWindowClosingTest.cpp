@@ -1,0 +1,168 @@
+#include "RateWindowFixture.h"
+
+#include <algorithm>
+#include <optional>
+
+namespace wrenvale::platform {
+namespace {
+
+class QtRateWindowClosingTest : public RateWindowFixture {
+protected:
+  long asked() const {
+    return std::count(delegate_.calls.begin(), delegate_.calls.end(), "should close");
+  }
+
+  /// Opens over a parent and runs modally; `during` is called from the modal loop.
+  bool runModal(const std::function<void()>& during) {
+    return runInApplication([&] {
+      parent_ = std::make_unique<QWidget>();
+      openOver(*parent_);
+      QTimer::singleShot(0, qApp, during);
+      RateWindow& window = *window_; // which `during` may destroy
+      window.runModal();
+      EXPECT_FALSE(widget() && widget()->isVisible());
+    });
+  }
+
+  std::unique_ptr<QWidget> parent_;
+};
+
+struct Way {
+  const char* name;
+  std::function<void(QWidget& window, std::unique_ptr<QWidget>& parent)> close;
+  int asked = 1;
+};
+
+const std::vector<Way>& ways() {
+  static const std::vector<Way> rows{
+      {"close event", [](QWidget& window, auto&) { window.close(); }},
+      {"two close events",
+       [](QWidget& window, auto&) {
+         window.close();
+         window.close();
+       }},
+      {"escape", [](QWidget& window, auto&) { QTest::keyClick(&window, Qt::Key_Escape); }},
+      {"close button",
+       [](QWidget& window, auto&) { window.findChild<QPushButton*>("closeButton")->click(); }},
+      {"hidden by the host", [](QWidget& window, auto&) { window.hide(); }},
+      {"destroyed by the host", [](QWidget& window, auto&) { delete &window; }},
+      {"parent closed", [](QWidget&, auto& parent) { parent->close(); }},
+      {"parent hidden", [](QWidget&, auto& parent) { parent->hide(); }},
+      {"parent deleted", [](QWidget&, auto& parent) { parent.reset(); }},
+      {"host quits", [](QWidget&, auto&) { QCoreApplication::quit(); }},
+      {"host leaves its loop", [](QWidget&, auto&) { QCoreApplication::exit(3); }},
+  };
+  return rows;
+}
+
+TEST_F(QtRateWindowClosingTest, EveryWayAsksOnceAndEndsTheModalLoop) {
+  for (const Way& way : ways()) {
+    for (const bool pushing : {false, true}) {
+      SCOPED_TRACE(std::string(way.name) + (pushing ? " in the middle of a transition" : ""));
+      delegate_.calls.clear();
+      window_ = QtRateWindows().makeRateWindow(delegate_);
+      EXPECT_TRUE(runModal([&] {
+        if (pushing) window_->setView(RateView::kContact, true);
+        way.close(*widget(), parent_);
+      }));
+      EXPECT_EQ(asked(), way.asked);
+      window_.reset();
+      QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+      EXPECT_EQ(widget(), nullptr);
+    }
+  }
+}
+
+TEST_F(QtRateWindowClosingTest, AFreeWindowIsAskedWhenTheHostQuits) {
+  const std::function<void()> ends[] = {[] { QCoreApplication::quit(); },
+                                        [] { QCoreApplication::exit(); }};
+  for (const auto& quit : ends) {
+    delegate_.calls.clear();
+    EXPECT_TRUE(runInApplication([&] {
+      open();
+      quit();
+    }));
+    EXPECT_EQ(asked(), 1);
+    EXPECT_FALSE(widget()->isVisible());
+  }
+}
+
+TEST_F(QtRateWindowClosingTest, ADelegateThatDisagreesKeepsItOpen) {
+  delegate_.onClose = [] { return false; };
+  open();
+  widget()->close();
+  EXPECT_TRUE(widget()->isVisible());
+  delegate_.onClose = nullptr;
+  widget()->close();
+  EXPECT_FALSE(widget()->isVisible());
+  EXPECT_EQ(asked(), 2);
+}
+
+TEST_F(QtRateWindowClosingTest, CommandsOfTheDelegateAskNothing) {
+  const std::map<const char*, std::function<void()>> commands{
+      {"close", [this] { window_->close(); }},
+      {"destroy", [this] { window_.reset(); }},
+      {"abort and close",
+       [this] {
+         window_->abortModal();
+         window_->close();
+       }},
+      {"abort and destroy",
+       [this] {
+         window_->abortModal();
+         window_.reset();
+       }},
+  };
+  for (const auto& [name, command] : commands) {
+    SCOPED_TRACE(name);
+    window_ = QtRateWindows().makeRateWindow(delegate_);
+    delegate_.calls.clear();
+    delegate_.onButton = [&command = command](RateButton) { command(); };
+    EXPECT_TRUE(runModal([] { click("likeButton"); }));
+    EXPECT_THAT(delegate_.calls, testing::ElementsAre("button 0"));
+  }
+}
+
+TEST_F(QtRateWindowClosingTest, MayBeDestroyedWhileItAsks) {
+  delegate_.onClose = [this] {
+    widget()->close(); // a host that quits from within
+    window_.reset();
+    return true;
+  };
+  EXPECT_TRUE(runModal([] { widget()->close(); }));
+  EXPECT_EQ(asked(), 1);
+}
+
+TEST_F(QtRateWindowClosingTest, AbortedOrClosedBeforeItRunsItDoesNotRun) {
+  const std::function<void()> before[] = {[this] { window_->abortModal(); },
+                                          [this] { window_->close(); }};
+  for (const auto& end : before) {
+    window_ = QtRateWindows().makeRateWindow(delegate_);
+    EXPECT_TRUE(runInApplication([&] {
+      QWidget parent;
+      openOver(parent);
+      end();
+      window_->runModal();
+    }));
+  }
+}
+
+TEST_F(QtRateWindowClosingTest, NeitherEndsNorKeepsTheHost) {
+  QWidget hostWindow;
+  int quits = 0;
+  const auto connection =
+      QObject::connect(qApp, &QGuiApplication::lastWindowClosed, [&quits] { ++quits; });
+  EXPECT_TRUE(runInApplication([&] {
+    open();
+    widget()->close();
+    EXPECT_EQ(quits, 0);
+    hostWindow.show();
+    open();
+    hostWindow.close();
+    EXPECT_EQ(quits, 1) << "the window that is still open must not count";
+  }));
+  QObject::disconnect(connection);
+}
+
+} // namespace
+} // namespace wrenvale::platform

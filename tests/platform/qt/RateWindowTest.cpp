@@ -1,0 +1,187 @@
+#include "RateWindowFixture.h"
+
+#include <QLabel>
+
+namespace wrenvale::platform {
+namespace {
+
+using testing::ElementsAre;
+
+class QtRateWindowTest : public RateWindowFixture {
+protected:
+  void pushOnLike() {
+    delegate_.onButton = [this](RateButton sender) {
+      if (sender == RateButton::kLike) window_->setView(RateView::kAppstore, true);
+    };
+  }
+};
+
+TEST_F(QtRateWindowTest, IsAnOrdinaryWindowWithACloseButtonOnly) {
+  open();
+  const Qt::WindowFlags flags = widget()->windowFlags();
+  EXPECT_TRUE(flags & Qt::WindowCloseButtonHint);
+  EXPECT_FALSE(flags & (Qt::WindowMinMaxButtonsHint | Qt::FramelessWindowHint));
+  EXPECT_FALSE(widget()->isModal());
+  EXPECT_EQ(widget()->windowTitle(), "Rate Photo Tool");
+  for (const char* view : {"appstoreView", "contactView", "closeButton"})
+    EXPECT_FALSE(outlet(view).isVisible()) << view;
+  for (const char* name : {"likeButton", "dislikeButton", "imageView", "rateView"})
+    EXPECT_TRUE(outlet(name).isVisible()) << name;
+}
+
+TEST_F(QtRateWindowTest, PressesOfThePresentViewReachTheDelegate) {
+  const StillDesktop still;
+  pushOnLike();
+  open();
+  click("contactButton");
+  click("likeButton");
+  click("likeButton");
+  click("appstoreButton");
+  EXPECT_THAT(delegate_.calls, ElementsAre("button 0", "button 2"));
+}
+
+TEST_F(QtRateWindowTest, OnePressForOneTransition) {
+  pushOnLike();
+  open();
+  click("likeButton");
+  ASSERT_TRUE(outlet("rateView").isVisible() && outlet("appstoreView").isVisible());
+  click("dislikeButton");
+  click("appstoreButton");
+  EXPECT_THAT(delegate_.calls, ElementsAre("button 0"));
+  ASSERT_TRUE(waitForPush());
+  EXPECT_EQ(outlet("appstoreView").pos(), QPoint(0, 0));
+  click("appstoreButton");
+  EXPECT_THAT(delegate_.calls, ElementsAre("button 0", "button 2"));
+}
+
+TEST_F(QtRateWindowTest, APushBeforeTheLastOneEndedLeavesOneView) {
+  open();
+  window_->setView(RateView::kAppstore, true);
+  window_->setView(RateView::kContact, true);
+  ASSERT_TRUE(waitForPush());
+  EXPECT_TRUE(outlet("contactView").isVisible());
+}
+
+TEST_F(QtRateWindowTest, ViewsComeFromWhereTextEnds) {
+  for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+    widget()->setLayoutDirection(direction);
+    window_->setView(RateView::kRate, false);
+    open();
+    window_->setView(RateView::kAppstore, true);
+    const int x = outlet("appstoreView").x();
+    EXPECT_TRUE(direction == Qt::LeftToRight ? x > 0 : x < 0) << x;
+    EXPECT_TRUE(waitForPush());
+  }
+}
+
+TEST_F(QtRateWindowTest, HoveringTellsTheModeOfTheTrackingArea) {
+  const StillDesktop still;
+  pushOnLike();
+  open();
+  hover("dislikeButton", true);
+  hover("dislikeButton", false);
+  hover("likeButton", true);
+  hover("appstoreButton", true); // has no tracking area
+  EXPECT_THAT(delegate_.calls, ElementsAre("entered 1", "exited 1", "entered 2"));
+  click("likeButton");
+  hover("likeButton", false); // went away under the pointer
+  EXPECT_THAT(delegate_.calls, ElementsAre("entered 1", "exited 1", "entered 2", "button 0"));
+}
+
+TEST_F(QtRateWindowTest, WorksByKeyboard) {
+  pushOnLike();
+  open();
+  QTest::keyClick(widget()->focusWidget(), Qt::Key_Return);
+  EXPECT_THAT(delegate_.calls, ElementsAre()) << "a key meant for another window";
+  for (int tab = 0; tab < 2; ++tab)
+    QTest::keyClick(widget()->focusWidget(), Qt::Key_Tab);
+  ASSERT_EQ(widget()->focusWidget(), &outlet("likeButton"));
+  QTest::keyClick(widget()->focusWidget(), Qt::Key_Return);
+  ASSERT_TRUE(waitForPush());
+  ASSERT_EQ(widget()->focusWidget(), &outlet("appstoreButton"));
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, "\r", true);
+  QCoreApplication::sendEvent(widget()->focusWidget(), &held);
+  EXPECT_THAT(delegate_.calls, ElementsAre("button 0"));
+  QTest::keyClick(widget()->focusWidget(), Qt::Key_Space);
+  QTest::keyClick(widget()->focusWidget(), Qt::Key_Escape);
+  EXPECT_THAT(delegate_.calls, ElementsAre("button 0", "button 2", "should close"));
+}
+
+TEST_F(QtRateWindowTest, TheSecondClickOfADoubleClickPressesNothing) {
+  open();
+  QTest::mouseDClick(&outlet("dislikeButton"), Qt::LeftButton);
+  QTest::mouseRelease(&outlet("dislikeButton"), Qt::LeftButton);
+  EXPECT_THAT(delegate_.calls, ElementsAre());
+}
+
+TEST_F(QtRateWindowTest, TextsHaveTheNameAsItIs) {
+  window_->setAppName("Cut & <b>Paste</b>");
+  open();
+  EXPECT_EQ(widget()->windowTitle(), "Rate Cut & <b>Paste</b>");
+  for (const auto* label : widget()->findChildren<QLabel*>()) {
+    EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->text().toStdString();
+    EXPECT_FALSE(label->text().contains("%1")) << label->text().toStdString();
+  }
+  for (const auto* button : widget()->findChildren<QPushButton*>()) {
+    EXPECT_FALSE(button->text().isEmpty());
+    EXPECT_EQ(button->accessibleDescription().isEmpty(), button->isFlat());
+    EXPECT_EQ(button->cursor().shape(), Qt::PointingHandCursor);
+  }
+}
+
+TEST_F(QtRateWindowTest, StaysInTheMiddleOfItsParent) {
+  QWidget parent;
+  const auto middle = [&parent] {
+    return parent.frameGeometry().center() - widget()->rect().center();
+  };
+  const auto centred = [&] {
+    return QTest::qWaitFor([&] { return (widget()->pos() - middle()).manhattanLength() <= 2; });
+  };
+  openOver(parent);
+  EXPECT_TRUE(centred());
+  EXPECT_TRUE(widget()->isModal());
+  EXPECT_TRUE(outlet("closeButton").isVisible());
+  EXPECT_TRUE(widget()->windowFlags() & Qt::FramelessWindowHint) << "no frame to move it by";
+  widget()->move(7, 9); // as a window manager may
+  EXPECT_TRUE(centred());
+  parent.setGeometry(300, 200, 500, 700);
+  EXPECT_TRUE(centred());
+}
+
+TEST(DimmingOverlayTest, CoversItsParentAndGoesWithIt) {
+  QWidget parent;
+  parent.setStyleSheet("background: white");
+  parent.resize(300, 200);
+  parent.show();
+  auto overlay = QtRateWindows().makeOverlay(&parent);
+  bool arrived = false;
+  overlay->animateAlpha(0.3, [&] { arrived = true; });
+  EXPECT_FALSE(arrived);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return arrived; }));
+  parent.resize(500, 400);
+  EXPECT_NEAR(parent.grab().toImage().pixelColor(480, 380).red(), 255 * 0.7, 2);
+  overlay.reset();
+  EXPECT_EQ(parent.grab().toImage().pixelColor(480, 380), QColor(Qt::white));
+}
+
+TEST(DimmingOverlayTest, CompletionsNeedNoParentAndNoAnimation) {
+  int completions = 0;
+  const auto count = [&completions] { ++completions; };
+  auto parent = std::make_unique<QWidget>();
+  const auto orphan = QtRateWindows().makeOverlay(parent.get());
+  auto dropped = QtRateWindows().makeOverlay(parent.get());
+  dropped->animateAlpha(0.3, count);
+  dropped.reset();
+  parent.reset();
+  orphan->animateAlpha(0.3, count);
+  EXPECT_EQ(completions, 1);
+  QtRateWindows().makeOverlay(nullptr)->animateAlpha(0.3, count);
+  EXPECT_EQ(completions, 2);
+  const StillDesktop still;
+  QWidget other;
+  QtRateWindows().makeOverlay(&other)->animateAlpha(0.3, count);
+  EXPECT_EQ(completions, 3);
+}
+
+} // namespace
+} // namespace wrenvale::platform

@@ -1,0 +1,102 @@
+#include "recommend/RecommenderDocument.h"
+
+#include "recommend/WhiteSpace.h"
+#include "tests/recommend/RecommendFixture.h"
+
+namespace wrenvale::recommend {
+namespace {
+
+using Optional = std::optional<std::string>;
+
+Optional optional(const Text& text) {
+  return text ? Optional(*text) : std::nullopt;
+}
+
+TEST(RecommenderDocument, ReadsTextFromWhateverStandsThere) {
+  const struct {
+    const char* value;
+    Optional text;
+  } rows[] = {
+      {R"("Alpha")", "Alpha"},
+      {R"("")", ""},
+      {R"(" a\n")", " a\n"},
+      {"12", "12"},
+      {"-3", "-3"},
+      {"1.5", "1.5"},
+      {"1e300", "1e+300"},
+      {"true", std::nullopt},
+      {"null", std::nullopt},
+      {R"(["a"])", std::nullopt},
+      {"{}", std::nullopt},
+  };
+  for (const auto& row : rows) {
+    const Value entry = json(R"({"sp_name": )" + std::string(row.value) + "}");
+    EXPECT_EQ(optional(Candidate(entry).name), row.text) << row.value;
+  }
+}
+
+TEST(RecommenderDocument, KnowsEveryFieldOfACandidate) {
+  const Candidate candidate(json(R"({
+    "bundle_id": "1", "sp_name": "2", "sp_icon": "3", "brick": "4", "media": "5",
+    "sp_description": "6", "sp_link_name": "7", "link": "8", "group": "9", "alert_text": "10",
+    "alert_link": "11", "alert_link_name": "12", "priority_score": " +13 points",
+    "unknown": "14", "group": "later"})"));
+  const Text texts[] = {candidate.bundleID,  candidate.name,      candidate.icon,
+                        candidate.brick,     candidate.media,     candidate.description,
+                        candidate.linkName,  candidate.link,      candidate.group,
+                        candidate.alertText, candidate.alertLink, candidate.alertLinkName};
+  const char* const expected[] = {"1", "2", "3",     "4",  "5",  "6",
+                                  "7", "8", "later", "10", "11", "12"};
+  for (std::size_t i = 0; i < std::size(texts); ++i)
+    EXPECT_EQ(optional(texts[i]), expected[i]) << i;
+  EXPECT_EQ(candidate.priorityScore, 13);
+}
+
+TEST(RecommenderDocument, TellsAbsentKeysFromEmptyValues) {
+  const struct {
+    const char* entry;
+    std::int64_t score;
+    std::optional<Optional> brick;
+  } rows[] = {
+      {R"({})", 100, std::nullopt},
+      {R"({"dependency_score": 25, "brick": "b"})", 25, "b"},
+      {R"({"dependency_score": "-7", "brick": ""})", -7, ""},
+      {R"({"dependency_score": null, "brick": null})", 0, Optional()},
+      {R"({"dependency_score": [9], "brick": {}})", 0, Optional()},
+      {R"({"dependency_score": 1e30})", INT64_MAX, std::nullopt},
+      {R"(["dependency_score", "brick"])", 100, std::nullopt},
+  };
+  for (const auto& row : rows) {
+    const Dependency dependency(json(row.entry));
+    EXPECT_EQ(dependency.score(), row.score) << row.entry;
+    const auto brick = dependency.brick();
+    ASSERT_EQ(brick.has_value(), row.brick.has_value()) << row.entry;
+    EXPECT_EQ(optional(brick.value_or(Text())), row.brick.value_or(std::nullopt)) << row.entry;
+  }
+}
+
+TEST(WhiteSpace, IsTrimmedByItsUnicodeDefinition) {
+  const struct {
+    std::string_view text, trimmed;
+  } rows[] = {
+      {"", ""},
+      {" \t\r\n\v\f", ""},
+      {" com.example.host\n", "com.example.host"},
+      {"a b", "a b"},
+      {"\u00A0\u0085a\u1680\u2028", "a"},
+      {"\u2000\u200A\u2029\u202F\u205F\u3000a\u2003\u2009", "a"},
+      {"\u200Ba\uFEFF", "\u200Ba\uFEFF"}, // zero width is no white space
+      {"\u180E\x1F"
+       "a\x7F",
+       "\u180E\x1F"
+       "a\x7F"},                          // nor are these controls
+      {"\u0420a\u0420", "\u0420a\u0420"}, // ends in the byte 0xA0
+      {"\xA0\x85\x80", "\xA0\x85\x80"},   // no UTF-8
+      {std::string_view("\0 a", 3), std::string_view("\0 a", 3)},
+  };
+  for (const auto& row : rows)
+    EXPECT_EQ(trimmed(row.text), row.trimmed) << row.text;
+}
+
+} // namespace
+} // namespace wrenvale::recommend

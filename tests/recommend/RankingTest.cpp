@@ -1,0 +1,103 @@
+#include "recommend/Ranking.h"
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+#include "recommend/KVXAppRecommendation.h"
+#include "tests/recommend/RecommendFixture.h"
+
+namespace wrenvale::recommend {
+namespace {
+
+std::shared_ptr<KVXAppRecommendation> record(std::int64_t points, std::string name = {},
+                                             std::optional<std::string> group = {}) {
+  auto result = std::make_shared<KVXAppRecommendation>();
+  result->setPoints(points);
+  result->setName(name);
+  result->setGroup(group);
+  return result;
+}
+
+std::string names(const Recommendations& list) {
+  std::string result;
+  for (const auto& record : list)
+    result += record->name().value_or("?");
+  return result;
+}
+
+class CountingRandom : public platform::FakeRandom {
+public:
+  std::uint32_t arc4random() override { return ++tosses, FakeRandom::arc4random(); }
+  std::size_t tosses = 0;
+};
+
+TEST(Ranking, OrdersByPointsWhateverTheCoinSays) {
+  CountingRandom random;
+  for (std::size_t size = 0; size < 200; ++size) {
+    Recommendations list;
+    for (std::size_t i = 0; i < size; ++i)
+      list.push_back(record(static_cast<std::int64_t>(random.arc4random() % 20) - 10));
+    const std::set<std::shared_ptr<KVXAppRecommendation>> before(list.begin(), list.end());
+    sortByPoints(list, random);
+    EXPECT_TRUE(std::is_sorted(list.begin(), list.end(), [](const auto& a, const auto& b) {
+      return a->points() > b->points();
+    })) << size;
+    EXPECT_EQ((std::set(list.begin(), list.end())), before) << size;
+  }
+}
+
+TEST(Ranking, TossesForEveryTie) {
+  platform::FakeRandom random;
+  std::map<std::string, int> orders;
+  for (int i = 0; i < 3000; ++i) {
+    Recommendations list = {record(150, "a"), record(300, "-"), record(150, "b"), record(150, "c")};
+    sortByPoints(list, random);
+    ++orders[names(list)];
+  }
+  EXPECT_EQ(orders.size(), 6U); // every order of the three, always after the best
+  for (const auto& [order, count] : orders) {
+    EXPECT_EQ(order.front(), '-') << order;
+    EXPECT_GT(count, 100) << order;
+  }
+}
+
+TEST(Ranking, TakesTheFirstOnAnOddNumberOnly) {
+  for (const std::uint32_t number : {0U, 1U, 2U, 0xFFFFFFFEU, 0xFFFFFFFFU}) {
+    platform::FakeRandom random;
+    random.numbers = {number};
+    Recommendations list = {record(7, "a"), record(7, "b")};
+    sortByPoints(list, random);
+    EXPECT_EQ(names(list), number & 1 ? "ab" : "ba") << number;
+  }
+}
+
+TEST(Ranking, KeepsTossingHoweverManyTiesThereAre) {
+  for (const std::uint32_t number : {0U, 1U}) {
+    CountingRandom random;
+    random.numbers.assign(20000, number);
+    Recommendations list(1024);
+    std::generate(list.begin(), list.end(), [] { return record(0); });
+    const auto before = list;
+    sortByPoints(list, random);
+    EXPECT_EQ(random.tosses, 5120U); // one for each step of each merge: none was answered "equal"
+    EXPECT_TRUE(number ? list == before
+                       : std::equal(list.begin(), list.end(), before.rbegin(), before.rend()));
+  }
+}
+
+TEST(Ranking, KeepsTheBestOfEachGroup) {
+  const Recommendations sorted = {
+      record(300, "a", "x"), record(200, "b"),     record(150, "c", "X"),
+      record(120, "d", "x"), record(100, "e"),     record(90, "f", ""),
+      record(80, "g", "x "), record(70, "h", "X"), record(60, "i", "")};
+  EXPECT_EQ(names(onePerGroup(sorted)), "abcefg");
+
+  Recommendations crowd(10000);
+  std::generate(crowd.begin(), crowd.end(), [] { return record(1, "n", "g"); });
+  crowd.front()->setName("first");
+  EXPECT_EQ(names(onePerGroup(crowd)), "first");
+}
+
+} // namespace
+} // namespace wrenvale::recommend

@@ -1,0 +1,53 @@
+// Recommendations for com.example.host, build 120, over an in-memory system; documents are written
+// as JSON text.
+
+#ifndef WRENVALE_TESTS_RECOMMEND_RECOMMENDFIXTURE_H
+#define WRENVALE_TESTS_RECOMMEND_RECOMMENDFIXTURE_H
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include "core/BuildConfiguration.h"
+#include "core/Endpoints.h"
+#include "platform/fake/FakeSystem.h"
+#include "platform/net/JSONReader.h"
+#include "recommend/Context.h"
+
+namespace wrenvale::recommend {
+
+inline Value json(std::string_view text) {
+  const auto result = platform::JSONReader().JSONObjectWithData(std::string(text));
+  EXPECT_TRUE(result.object) << text << "\n" << result.error;
+  return result.object.value_or(Value());
+}
+
+class RecommendTest : public testing::Test {
+protected:
+  Context context() {
+    return {.iconBase = endpoints.icon(""),
+            .host = {.bundleID = "com.example.host", .bundleVersion = 120},
+            .isInstalled =
+                [this](std::string_view identifier) {
+                  return applications.URLForApplicationWithBundleIdentifier(identifier).has_value();
+                },
+            .purchaseRecord = [this] { return bought; },
+            .purchases = [this] { return purchases; },
+            .random = random,
+            .fileManager = &files};
+  }
+
+  platform::FakeInstalledApplications applications;
+  platform::FakeRandom random;
+  platform::FakeFileManager files;
+  Endpoints endpoints{BuildConfiguration{.vendorBase = "http://vendor.example",
+                                         .storeHost = {},
+                                         .publicKey = {},
+                                         .vendorSiteName = {}}};
+  bool bought = false;
+  Value purchases;
+};
+
+} // namespace wrenvale::recommend
+
+#endif

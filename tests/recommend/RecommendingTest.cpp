@@ -1,0 +1,124 @@
+#include "recommend/Recommending.h"
+
+#include "recommend/Eligibility.h"
+#include "recommend/KVXAppRecommendation.h"
+#include "recommend/RecommenderDocument.h"
+#include "recommend/Scoring.h"
+#include "recommend/Trace.h"
+#include "tests/recommend/RecommendFixture.h"
+
+namespace wrenvale::recommend {
+namespace {
+
+// A document for com.example.host with this as its "apps".
+std::string withApps(const std::string& apps) {
+  return R"({"options": {"stable_versions": [{"bundle_id": "com.example.host",
+             "build_number": 120}]}, "apps": )" +
+         apps + "}";
+}
+
+// The identifiers of the list in order, or "closed".
+std::string outcome(const Value& document, const Context& context) {
+  const auto list = recommendations(RecommenderDocument(document), context);
+  if (!list) return "closed";
+  std::string result;
+  for (const auto& record : *list)
+    result += *record->bundleID();
+  return result;
+}
+
+const std::string kApps = withApps(R"([
+  {"bundle_id": "a", "priority_score": 1},
+  {"bundle_id": "b", "priority_score": 120, "group": "g"},
+  {"bundle_id": "c", "priority_score": 100, "group": "g",
+   "dependency": [{"bundle_id": "i"}, {"bundle_id": "j"}]},
+  {"bundle_id": "com.example.host"}, {"bundle_id": "i"}, {"sp_name": "nameless"},
+  {"bundle_id": "d", "priority_score": 500, "exclude": ["i"]},
+  {"bundle_id": "e", "priority_score": -1}])");
+
+TEST_F(RecommendTest, MakesNothingOfABadDocument) {
+  const struct {
+    std::string document, outcome;
+  } rows[] = {
+      {"{}", "closed"},
+      {"[]", "closed"},
+      {R"(["options", "apps"])", "closed"},
+      {R"({"options": null, "apps": [{"bundle_id": "a"}]})", "closed"},
+      {R"({"options": [{"stable_versions": []}]})", "closed"},
+      {R"({"options": {"stable_versions": [{"bundle_id": "com.example.host",
+           "build_number": 120}]}})",
+       ""},
+      {withApps("null"), ""},
+      {withApps("[]"), ""},
+      {withApps(R"("a")"), ""},
+      {withApps(R"({"0": {"bundle_id": "a"}})"), ""},
+      {withApps(R"([null, true, 1, -2.5, "a", [], [{"bundle_id": "a"}], {}, {"bundle_id": "b"}])"),
+       "b"},
+      {withApps(R"([{"bundle_id": null, "exclude": null, "dependency": null}, {"bundle_id": "a",
+           "group": null, "exclude": null, "dependency": null, "priority_score": null}])"),
+       "a"},
+      {withApps(R"([{"bundle_id": "a", "group": ["g"], "priority_score": 3},
+                    {"bundle_id": "b", "group": ["g"], "priority_score": 2}])"),
+       "ab"},
+      {withApps(R"([{"bundle_id": "a", "group": 5, "priority_score": 3},
+                    {"bundle_id": "b", "group": 5, "priority_score": 2}])"),
+       "a"},
+      {withApps(R"([{"bundle_id": "a", "priority_score": -99999999999999999999},
+                    {"bundle_id": "b", "priority_score": 99999999999999999999}])"),
+       "ba"},
+      {withApps(R"([{"bundle_id": "x", "bundle_id": "a"}])"), "a"},
+      {withApps(R"([{"bundle_id": "../../a"}, {"bundle_id": "a\nb", "priority_score": -1}])"),
+       "../../aa\nb"},
+      {withApps(R"([{"bundle_id": "a"}], "apps": 7)"), ""},
+  };
+  for (const auto& row : rows)
+    EXPECT_EQ(outcome(json(row.document), context()), row.outcome) << row.document;
+}
+
+TEST_F(RecommendTest, FollowsCandidatesFromTheDocumentToTheList) {
+  applications.identifiers = {"i"};
+  EXPECT_EQ(outcome(json(kApps), context()), "cae");
+  applications.identifiers.clear(); // asked anew: "i" may be recommended now, and "d" too
+  EXPECT_EQ(outcome(json(kApps), context()), "dbaie");
+  auto newer = context();
+  newer.host.bundleVersion = 121;
+  EXPECT_EQ(outcome(json(kApps), newer), "closed");
+}
+
+TEST_F(RecommendTest, GivesAccountOfEveryDecision) {
+  class Account : public Trace {
+  public:
+    void gate(const StableVersion* entry, bool passed) override {
+      text += entry && passed ? "gate open; " : "gate closed; ";
+    }
+    void politeness(bool polite) override { text += polite ? "polite; " : "not polite; "; }
+    void leftOut(const Candidate& candidate, const Exclusion& exclusion) override {
+      text += (candidate.bundleID ? *candidate.bundleID : "?") + " out " +
+              std::to_string(static_cast<int>(exclusion.reason)) + exclusion.by + "; ";
+    }
+    void considering(const Candidate& candidate) override {
+      text += *candidate.bundleID + " from " + std::to_string(candidate.priorityScore);
+    }
+    void dependency(const Dependency& dependency, DependencyOutcome, std::int64_t earned) override {
+      text += " " + *dependency.bundleID() + "+" + std::to_string(earned);
+    }
+    void built(const KVXAppRecommendation& record) override {
+      text += " = " + std::to_string(record.points()) + "; ";
+    }
+    void groupTaken(const KVXAppRecommendation& dropped,
+                    const KVXAppRecommendation& best) override {
+      text += *dropped.bundleID() + " behind " + *best.bundleID();
+    }
+    std::string text;
+  } account;
+  applications.identifiers = {"i"};
+  auto traced = context();
+  traced.trace = &account;
+  outcome(json(kApps), traced);
+  EXPECT_EQ(account.text, "gate open; not polite; a from 1 = 1; b from 120 = 120; "
+                          "c from 100 i+100 j+0 = 200; com.example.host out 1; i out 2; ? out 0; "
+                          "d out 3i; e from -1 = -1; b behind c");
+}
+
+} // namespace
+} // namespace wrenvale::recommend

@@ -1,0 +1,151 @@
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include "platform/net/JSONReader.h"
+#include "tools/wrenvale/JSONText.h"
+#include "tools/wrenvale/Preview.h"
+
+namespace wrenvale::kit {
+namespace {
+
+using testing::HasSubstr;
+
+std::string contentsOf(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  EXPECT_TRUE(file) << path;
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+Value json(const std::string& text) {
+  return platform::JSONReader().JSONObjectWithData(text).object.value_or(Value());
+}
+
+PreviewRequest requestOf(std::int64_t build) {
+  return {.host = {.bundleID = "com.example.phototool", .bundleVersion = build},
+          .installed = {},
+          .purchased = {},
+          .vendorBase = "http://127.0.0.1:47210"};
+}
+
+struct Output {
+  std::string text; ///< standard output and standard error
+  int status;
+};
+
+// Runs the kit's preview with these arguments, which a shell reads.
+Output runPreview(const std::string& arguments) {
+  Output result{};
+  std::FILE* pipe = popen((WRENVALE_KIT " preview " + arguments + " 2>&1").c_str(), "r");
+  std::array<char, 4096> buffer;
+  while (const auto size = std::fread(buffer.data(), 1, buffer.size(), pipe))
+    result.text.append(buffer.data(), size);
+  result.status = WEXITSTATUS(pclose(pipe));
+  return result;
+}
+
+TEST(Preview, ShowsTheExampleDocumentAsExpected) {
+  auto request = requestOf(1204);
+  request.installed = {"com.example.phototool", "com.example.scanbench",
+                       "com.example.postcardclassic"};
+  const auto site = std::string(EXAMPLE_SITE "/store/recommender_US_en");
+  const auto expected = std::string(EXPECTED_OUTPUT "/preview_US_en");
+  const auto shown = previewOf(json(contentsOf(site + ".json")), request);
+  EXPECT_EQ(asText(shown), contentsOf(expected + ".txt"));
+  EXPECT_EQ(asJSON(shown), contentsOf(expected + ".json"));
+  EXPECT_FALSE(json(asJSON(shown)).isNull());
+
+  for (const char* variant : {"_F", "_U"}) {
+    const auto other = previewOf(json(contentsOf(site + variant + ".json")), request);
+    ASSERT_TRUE(other.recommendations) << variant;
+    EXPECT_EQ(other.polite, variant == std::string("_F"));
+    for (const auto& app : *other.recommendations)
+      EXPECT_FALSE(other.polite && app.record->alertText()) << variant;
+  }
+}
+
+TEST(Preview, SaysWhyNothingIsShown) {
+  const auto document = json(R"({"options": {"stable_versions": [
+    {"bundle_id": "com.example.phototool", "build_number": 5, "polite": 0}]},
+    "apps": [{"sp_name": "nameless"}]})");
+  EXPECT_EQ(asJSON(previewOf(document, requestOf(6))), R"({
+  "gate": false,
+  "polite": true,
+  "recommendations": null,
+  "left_out": []
+}
+)");
+  EXPECT_THAT(asText(previewOf(document, requestOf(6))),
+              HasSubstr("Gate: closed, the newest stable build is 5."));
+  EXPECT_EQ(asJSON(previewOf(document, requestOf(5))), R"({
+  "gate": true,
+  "polite": true,
+  "recommendations": [],
+  "left_out": [
+    {"bundleID": null, "reason": "no-identifier"}
+  ]
+}
+)");
+}
+
+TEST(Preview, WritesTextThatAnyoneMayRead) {
+  const std::string nasty("q\"b\\\n\x1B\0\x7F\u009B\u00E4", 12);
+  EXPECT_EQ(json("[" + jsonString(nasty) + "]").at(0), Value(nasty));
+  EXPECT_EQ(readable(nasty), "q\"b\\\\u000a\\u001b\\u0000\\u007f\\u009b\u00E4");
+  const struct {
+    const char* text;
+    std::size_t offset, line, column;
+  } rows[] = {{"", 0, 1, 1},
+              {"ab", 2, 1, 3},
+              {"a\nb", 1, 1, 2},
+              {"a\nb", 2, 2, 1},
+              {"\n\n\u00E4x", 4, 3, 2}};
+  for (const auto& row : rows) {
+    EXPECT_EQ(placeOf(row.text, row.offset).line, row.line) << row.text;
+    EXPECT_EQ(placeOf(row.text, row.offset).column, row.column) << row.text;
+  }
+}
+
+TEST(Preview, AnswersItsCommandLine) {
+  std::string broken = testing::TempDir() + "/wrenvale-preview-XXXXXX";
+  close(mkstemp(broken.data()));
+  std::ofstream(broken) << "{\"options\": {},\n \"apps\": [}";
+  const std::string document = EXAMPLE_SITE "/store/recommender_US_en.json";
+  const std::string host = " --bundle-id com.example.phototool --build ";
+  const struct {
+    std::string arguments;
+    int status;
+    const char* says;
+  } rows[] = {
+      {document + host + "1204 --json --installed com.example.filmclerk,com.example.spotless", 0,
+       R"({"bundleID": "com.example.spotless", "reason": "installed"})"},
+      {document + host + "1300 --json", 0, R"("gate": false)"},
+      {document + host + "1204 --installed com.example.phototool --purchased a,b", 0,
+       "but the user has bought something in it"},
+      {"--help", 0, "Usage: wrenvale preview"},
+      {broken + host + "1", 1, ":2:11: "},
+      {broken + ".missing" + host + "1", 1, "cannot read"},
+      {EXAMPLE_SITE + host + "1", 1, "cannot read"},
+      {document + host + "12x", 2, "cannot make sense of 12x"},
+      {document + " --build 1", 2, "--bundle-id is needed"},
+      {document + " --bundle-id a", 2, "--build is needed"},
+      {host + "1", 2, "one document is needed"},
+      {document + host + "1 --sneed 2", 2, "sneed"},
+  };
+  for (const auto& row : rows) {
+    const auto output = runPreview(row.arguments);
+    EXPECT_EQ(output.status, row.status) << row.arguments << "\n" << output.text;
+    EXPECT_THAT(output.text, HasSubstr(row.says)) << row.arguments;
+  }
+  std::remove(broken.c_str());
+}
+
+} // namespace
+} // namespace wrenvale::kit

@@ -1,0 +1,73 @@
+#include "welcome/EmailAddress.h"
+
+#include <random>
+#include <regex>
+#include <string>
+
+#include <gtest/gtest.h>
+
+namespace wrenvale::welcome {
+namespace {
+
+TEST(EmailAddress, IsCheckedAsAWhole) {
+  using std::string_literals::operator""s;
+  const struct {
+    std::string text;
+    bool accepted;
+  } rows[] = {
+      {"ann.lee_%+-9@mail.example.com", true},
+      {"a.b+tag@one.two.three.info", true},
+      {"a@b.co", true},
+      {"a@-..de", true},
+      {"", false},
+      {"a@b.museum", false},
+      {"a@b.c", false},
+      {"a@localhost", false},
+      {"a.b@com", false},
+      {"@b.de", false},
+      {"a@b@c.de", false},
+      {"ann lee@b.de", false},
+      {" a@b.de", false},
+      {"a@b.de\n", false},
+      {"a@b.de\0"s, false},
+      {"\xC3\xA9@b.de", false},
+  };
+  for (const auto& row : rows)
+    EXPECT_EQ(isEmailAddress(row.text), row.accepted) << row.text;
+}
+
+TEST(EmailAddress, AgreesWithThePattern) {
+  const std::regex pattern("[A-Z0-9a-z._%+-]+@[A-Za-z0-9.-]+\\.[A-Za-z]{2,4}");
+  const std::string pieces[] = {"a",   "Zz", "7",    ".", "..", "@",   "-",
+                                "_%+", "de", "comm", " ", "\n", "\xE9"};
+  std::mt19937 random(1);
+  int accepted = 0;
+  for (int i = 0; i < 20'000; ++i) {
+    std::string text;
+    for (auto count = random() % 9; count > 0; --count) {
+      // The usual pieces often, so that both answers come up.
+      const auto usual = random() % 4 != 0;
+      text += pieces[usual ? random() % 7 : random() % std::size(pieces)];
+    }
+    if (i % 2) text = "a" + text + "@" + text + ".de";
+    const bool matches = std::regex_match(text, pattern);
+    ASSERT_EQ(isEmailAddress(text), matches) << text;
+    accepted += matches ? 1 : 0;
+  }
+  EXPECT_GT(accepted, 1000);
+  EXPECT_LT(accepted, 19'000);
+}
+
+// Anything worse than linear would not come back within the test's time.
+TEST(EmailAddress, TakesAnyLength) {
+  constexpr std::size_t kLength = 10'000'000;
+  std::string dots = "a@";
+  while (dots.size() < kLength)
+    dots += "b.cd";
+  EXPECT_TRUE(isEmailAddress(dots));
+  EXPECT_FALSE(isEmailAddress(dots + "!"));
+  EXPECT_FALSE(isEmailAddress(std::string(kLength, '@')));
+}
+
+} // namespace
+} // namespace wrenvale::welcome

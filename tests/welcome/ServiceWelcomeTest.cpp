@@ -1,0 +1,177 @@
+#include <gtest/gtest.h>
+
+#include "tests/core/ServiceFixture.h"
+
+namespace wrenvale {
+namespace {
+
+class ServiceWelcome : public ServiceTest {
+protected:
+  KVXWrenvale& startLater() {
+    fake.userDefaults.setObject(120, keys::kRecommenderLastVersion);
+    return start();
+  }
+
+  /// Serves a document with one application that has alert text.
+  void serveRecommendations(const std::string& variant) {
+    fake.urlLoading.answers["http://vendor.example/store/recommender_US_en" + variant + ".json"] =
+        "document";
+    const Value::Dictionary host{{"bundle_id", "com.example.host"}, {"build_number", 120}};
+    const Value::Dictionary app{{"bundle_id", "com.example.alpha"}, {"alert_text", "Try it"}};
+    fake.json.documents["document"] =
+        Value::Dictionary{{"options", Value::Dictionary{{"stable_versions", Value::Array{host}}}},
+                          {"apps", Value::Array{app}}};
+  }
+
+  platform::FakeRecommenderWindow& window() { return fake.recommenderWindows.window(); }
+  std::size_t windows() const { return fake.recommenderWindows.windows.size(); }
+  std::size_t fetches() const { return fake.urlLoading.requests.size(); }
+};
+
+TEST_F(ServiceWelcome, IsDueOnTheFirstRunAndWhenOwed) {
+  const struct {
+    const char* what;
+    Value lastVersion, owed;
+    bool due, updating;
+    const char* document;
+  } rows[] = {
+      {"first run", {}, {}, true, false, "_F"},
+      {"first run, not owed", {}, false, true, false, "_F"},
+      {"first run, owed", {}, true, true, true, "_U"},
+      {"later, nothing stored", 120, {}, false, false, ""},
+      {"later, not owed", 120, false, false, false, ""},
+      {"later, owed", 119, true, true, true, "_U"},
+      {"odd value", 119, Value::Array{true}, false, false, ""},
+  };
+  for (const auto& row : rows) {
+    fake.userDefaults.values.clear();
+    fake.userDefaults.setObject(row.lastVersion, keys::kRecommenderLastVersion);
+    fake.userDefaults.setObject(row.owed, keys::kShowUpdateWindow);
+    fake.urlLoading.requests.clear();
+    const auto before = windows();
+    start();
+    serveRecommendations(row.document);
+    EXPECT_EQ(service->triggerWelcomeWindow(), row.due) << row.what;
+    fake.queues.runAll();
+    ASSERT_EQ(windows() - before, row.due ? 1U : 0U) << row.what;
+    EXPECT_EQ(fetches(), row.due ? 1U : 0U) << row.what;
+    if (!row.due) continue;
+    auto& page = window();
+    EXPECT_EQ(page.title, "Welcome to Photo Tool");
+    EXPECT_FALSE(page.visible) << "until the page asks for it";
+    page.startPage();
+    EXPECT_EQ(page.call("updating"), Value(row.updating)) << row.what;
+    page.call("showWindow");
+    ASSERT_EQ(page.sheets.size(), 1U) << row.what;
+    EXPECT_EQ(page.sheets.front().messageText, row.updating
+                                                   ? "Thank you for updating Photo Tool!"
+                                                   : "Thank you for downloading Photo Tool!");
+  }
+}
+
+TEST_F(ServiceWelcome, AnAnswerOfTheServerOpensItLater) {
+  startLater();
+  EXPECT_FALSE(service->triggerWelcomeWindow());
+  fake.urlLoading.answers["http://vendor.example/store/reset_US_en.json"] = "reset";
+  fake.json.documents["reset"] = Value::Array{Value::Dictionary{
+      {"bundle_id", "com.example.host"}, {"reset_number", 4}, {"max_build_number", 200}}};
+  service->reset();
+  fake.queues.runAll();
+  ASSERT_EQ(windows(), 1U);
+  window().startPage();
+  EXPECT_EQ(window().call("updating"), Value(true));
+}
+
+TEST_F(ServiceWelcome, AnOpenWindowIsKept) {
+  start().triggerWelcomeWindow();
+  service->triggerWelcomeWindow();
+  fake.queues.runAll();
+  EXPECT_EQ(windows(), 1U);
+  EXPECT_EQ(fetches(), 2U);
+
+  service->subscribeToNewsletter();
+  fake.queues.runAll();
+  EXPECT_EQ(windows(), 1U);
+  EXPECT_EQ(fetches(), 2U) << "no new fetch for the window that is there";
+  EXPECT_EQ(window().title, "Newsletter Subscription");
+  EXPECT_TRUE(window().visible);
+  EXPECT_EQ(window().broughtForward, 1);
+  EXPECT_EQ(fake.application.activations, 1);
+  fake.userDefaults.setObject(true, keys::kShowUpdateWindow);
+  window().pressClose();
+  EXPECT_TRUE(stored(keys::kShowUpdateWindow).isNull()) << "it is a welcome window still";
+}
+
+TEST_F(ServiceWelcome, TheNewsletterWindowOwesNothing) {
+  serveRecommendations("");
+  startLater().subscribeToNewsletter();
+  EXPECT_TRUE(window().visible && window().webViewHidden && window().progressShown);
+  EXPECT_EQ(window().title, "Newsletter Subscription");
+  EXPECT_EQ(fake.application.activations, 1);
+  fake.queues.runAll();
+  EXPECT_EQ(fetches(), 1U);
+  window().startPage();
+  window().call("showWindow");
+  EXPECT_EQ(window().call("updating"), Value(false));
+
+  fake.userDefaults.setObject(true, keys::kShowUpdateWindow);
+  EXPECT_TRUE(service->triggerWelcomeWindow());
+  fake.queues.runAll();
+  EXPECT_EQ(windows(), 1U);
+  EXPECT_EQ(window().title, "Newsletter Subscription");
+  window().call("setWidth:height", {640, 480});
+  EXPECT_TRUE(window().sheets.empty());
+  window().pressClose();
+  EXPECT_EQ(stored(keys::kShowUpdateWindow), Value(true));
+}
+
+TEST_F(ServiceWelcome, TheEndSettlesTheDebtAndMakesRoom) {
+  fake.userDefaults.setObject(true, keys::kShowUpdateWindow);
+  startLater().triggerWelcomeWindow();
+  auto& seen = window();
+  seen.startPage();
+  seen.pressClose();
+  EXPECT_TRUE(seen.webViewClosed);
+  EXPECT_TRUE(stored(keys::kShowUpdateWindow).isNull());
+  EXPECT_FALSE(service->triggerWelcomeWindow());
+  fake.userDefaults.setObject(true, keys::kShowUpdateWindow);
+  EXPECT_TRUE(service->triggerWelcomeWindow());
+  ASSERT_EQ(windows(), 2U);
+
+  window().fail(); // nobody saw it
+  EXPECT_TRUE(stored(keys::kShowUpdateWindow).isNull());
+  service->subscribeToNewsletter();
+  ASSERT_EQ(windows(), 3U);
+  window().fail();
+  EXPECT_EQ(window().errorSheets.size(), 1U);
+  EXPECT_TRUE(window().answerSheet());
+  EXPECT_FALSE(window().visible);
+  fake.queues.runAll();
+}
+
+TEST_F(ServiceWelcome, WithoutWindowsThereIsTheAnswerOnly) {
+  struct Throwing : platform::RecommenderWindows {
+    std::unique_ptr<platform::RecommenderWindow>
+    makeRecommenderWindow(platform::RecommenderWindowDelegate&) override {
+      throw std::bad_alloc();
+    }
+  } throwing;
+  const platform::Platform bare{fake.platform, fake.localization, fake.application, fake.workspace,
+                                fake.queues,   fake.rateWindows,  fake.alerts,      throwing};
+  fake.recommenderWindows.hasScreen = false;
+  for (const auto* platform : {&fake.platform, &bare}) {
+    fake.userDefaults.setObject(true, keys::kShowUpdateWindow);
+    KVXWrenvale alone(*platform, {});
+    EXPECT_TRUE(alone.triggerWelcomeWindow());
+    alone.subscribeToNewsletter();
+    fake.queues.runAll();
+    EXPECT_EQ(fetches(), 0U);
+    EXPECT_EQ(stored(keys::kShowUpdateWindow), Value(true));
+  }
+  fake.recommenderWindows.hasScreen = true;
+  EXPECT_TRUE(start().triggerWelcomeWindow());
+  EXPECT_EQ(windows(), 1U);
+}
+
+} // namespace
+} // namespace wrenvale

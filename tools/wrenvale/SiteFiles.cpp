@@ -1,0 +1,67 @@
+#include "tools/wrenvale/SiteFiles.h"
+
+#include <algorithm>
+#include <fstream>
+#include <iterator>
+
+namespace wrenvale::kit {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+bool isInside(const fs::path& folder, const fs::path& file) {
+  return std::ranges::mismatch(folder, file).in1 == folder.end();
+}
+
+// The path as one relative to the served folder; nothing for a path that may not be served.
+std::optional<fs::path> relativePath(std::string_view path) {
+  if (!path.starts_with('/') || path.find('\0') != std::string_view::npos) return std::nullopt;
+  if (path.find("/.") != std::string_view::npos) return std::nullopt;
+  const auto name = std::min(path.find_first_not_of('/'), path.size());
+  fs::path relative(path.substr(name));
+  return path.ends_with('/') ? relative / "index.html" : relative;
+}
+
+} // namespace
+
+std::optional<fs::path> siteFile(const fs::path& folder, std::string_view path) {
+  const auto relative = relativePath(path);
+  if (!relative) return std::nullopt;
+  std::error_code error;
+  const auto root = fs::canonical(folder, error);
+  if (error) return std::nullopt;
+  const auto file = fs::canonical(root / *relative, error);
+  if (error || !isInside(root, file) || !fs::is_regular_file(file, error)) return std::nullopt;
+  return file;
+}
+
+std::string contentType(const fs::path& file) {
+  static constexpr struct {
+    std::string_view extension;
+    const char* type;
+  } kTypes[] = {{".html", "text/html; charset=utf-8"},
+                {".css", "text/css; charset=utf-8"},
+                {".js", "text/javascript; charset=utf-8"},
+                {".txt", "text/plain; charset=utf-8"},
+                {".json", "application/json"},
+                {".svg", "image/svg+xml"},
+                {".png", "image/png"},
+                {".jpg", "image/jpeg"},
+                {".jpeg", "image/jpeg"},
+                {".gif", "image/gif"},
+                {".ico", "image/x-icon"},
+                {".woff2", "font/woff2"}};
+  const std::string extension = file.extension();
+  for (const auto& row : kTypes)
+    if (extension == row.extension) return row.type;
+  return "application/octet-stream";
+}
+
+std::optional<std::string> contentsOf(const fs::path& file) {
+  std::ifstream stream(file, std::ios::binary);
+  if (!stream) return std::nullopt;
+  return std::string(std::istreambuf_iterator<char>(stream), {});
+}
+
+} // namespace wrenvale::kit

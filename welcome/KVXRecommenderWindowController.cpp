@@ -1,0 +1,168 @@
+#include "welcome/KVXRecommenderWindowController.h"
+
+#include <utility>
+
+#include <wrenvale/KVXWrenvale.h>
+
+#include "core/Endpoints.h"
+#include "core/Guard.h"
+#include "core/Identity.h"
+#include "core/UserAgent.h"
+#include "platform/Platform.h"
+#include "welcome/JSONWriter.h"
+#include "welcome/NavigationPolicy.h"
+#include "welcome/ScriptBridge.h"
+#include "welcome/ThankYouAlert.h"
+
+namespace wrenvale {
+
+namespace {
+
+constexpr std::chrono::seconds kPageTimeout{60};
+
+// The alert's default button, and whatever else is not its "Cancel", leads to the application.
+void followAlert(const Recommendation& recommendation, int answer,
+                 const platform::Platform& platform) {
+  if (answer == platform::kAlertAlternateReturn) return;
+  if (const auto destination = welcome::alertDestination(recommendation)) {
+    platform.workspace.openURL(*destination);
+  } else {
+    platform.application.beep();
+  }
+}
+
+} // namespace
+
+KVXRecommenderWindowController::KVXRecommenderWindowController(KVXWrenvale& service,
+                                                               const platform::Platform& platform,
+                                                               const Endpoints& endpoints)
+    : _service(service)
+    , _platform(platform)
+    , _endpoints(endpoints) {}
+
+void KVXRecommenderWindowController::setDelegate(
+    std::weak_ptr<KVXRecommenderWindowControllerDelegate> delegate) {
+  _delegate = std::move(delegate);
+}
+
+bool KVXRecommenderWindowController::loadWindow() {
+  _window = _platform.recommenderWindows.makeRecommenderWindow(*this);
+  if (!_window) return false;
+  windowDidLoad();
+  return true;
+}
+
+void KVXRecommenderWindowController::windowDidLoad() {
+  _window->setBackgroundWhite();
+  _window->setWebViewHidden(true);
+  _window->setProgressShown(true);
+  _window->removeAllCachedResponses();
+  _window->setApplicationNameForUserAgent(applicationNameForUserAgent(
+      {_service.appName(), _service.bundleVersion(), _service.appstoreID()}));
+  _window->loadRequest(_endpoints.newsletterPage(countryOrFallback(_platform.locale)),
+                       kPageTimeout);
+}
+
+void KVXRecommenderWindowController::showWindow() {
+  if (_window) _window->showWindow();
+}
+
+void KVXRecommenderWindowController::cleanup() {
+  if (_window) _window->closeWebView();
+}
+
+void KVXRecommenderWindowController::setRecommendations(
+    std::optional<RecommendationList> recommendations) {
+  const auto self = shared_from_this();
+  _recommendations = std::move(recommendations);
+  guarded([&] { _sendRecommendations(); });
+  guarded([&] { _displayAlertIfPossible(); });
+}
+
+// Always in a later turn, also when called from one of the page's scripts.
+void KVXRecommenderWindowController::_sendRecommendations() {
+  _platform.queues.mainQueue().async([weak = weak_from_this()] {
+    if (const auto self = weak.lock()) self->sendRecommendationsNow();
+  });
+}
+
+// A page without the function has lost the list for good.
+void KVXRecommenderWindowController::sendRecommendationsNow() {
+  if (_recomendationsSent || !_javascriptReady || !_recommendations) return;
+  if (!_window || !_window->hasScriptObject()) return;
+  std::vector<Recommendation::Dictionary> dictionaries;
+  for (const auto& recommendation : *_recommendations)
+    dictionaries.push_back(recommendation->dictionaryRepresentation());
+  const Value text = welcome::prettyPrintedJSON(dictionaries);
+  _recomendationsSent = true;
+  _window->callWebScriptMethod("setRecommendations", {text});
+}
+
+// Tried again whenever one of its conditions may have come true.
+void KVXRecommenderWindowController::_displayAlertIfPossible() {
+  if (!_displayAlerts || _alertDisplayed || !_window || !_window->isVisible()) return;
+  const auto recommendation =
+      _recommendations ? welcome::firstWithAlert(*_recommendations) : nullptr;
+  if (!recommendation) return;
+  const auto alert = welcome::thankYouAlert(*recommendation, _updating, _service.appName(),
+                                            _platform.localization);
+  _alertDisplayed = true;
+  _window->beginSheet(alert, [recommendation, &platform = _platform](int answer) {
+    guarded([&] { followAlert(*recommendation, answer, platform); });
+  });
+}
+
+void KVXRecommenderWindowController::didClearWindowObject() {
+  const auto self = shared_from_this();
+  guarded([&] { _window->setScriptObject(welcome::kScriptObject, welcome::scriptMethods()); });
+}
+
+std::optional<Value>
+KVXRecommenderWindowController::invokeScriptMethod(std::string_view name,
+                                                   const std::vector<Value>& arguments) {
+  const auto self = shared_from_this();
+  return guarded([&] { return welcome::performScriptOperation(*this, name, arguments); });
+}
+
+platform::PolicyDecision KVXRecommenderWindowController::decidePolicyForNavigationAction(
+    const platform::NavigationAction& action) {
+  const auto self = shared_from_this();
+  const auto decision = welcome::decidePolicy(action);
+  if (decision == platform::PolicyDecision::kNone)
+    guarded([&] { _platform.workspace.openURL(action.url); });
+  return decision;
+}
+
+platform::PolicyDecision KVXRecommenderWindowController::decidePolicyForNewWindowAction(
+    const platform::NavigationAction& action) {
+  return decidePolicyForNavigationAction(action);
+}
+
+void KVXRecommenderWindowController::didFailProvisionalLoad(const platform::LoadError& error,
+                                                            bool isMainFrame) {
+  const auto self = shared_from_this();
+  if (!isMainFrame) return;
+  guarded([&] {
+    if (_window->isVisible()) {
+      showFailure(error);
+    } else {
+      _window->close();
+    }
+  });
+}
+
+// A page that fails again and again gets no second sheet; the first one closes the window.
+void KVXRecommenderWindowController::showFailure(const platform::LoadError& error) {
+  if (std::exchange(_failureShown, true)) return;
+  _window->beginErrorSheet(error, [weak = weak_from_this()] {
+    if (const auto self = weak.lock()) guarded([&] { self->_window->close(); });
+  });
+}
+
+void KVXRecommenderWindowController::windowWillClose() {
+  const auto self = shared_from_this();
+  const auto delegate = _delegate.lock();
+  if (delegate) guarded([&] { delegate->kvxRecommenderWindowControllerDidFinish(*this); });
+}
+
+} // namespace wrenvale

@@ -1,0 +1,35 @@
+// Subscribing to the maker's newsletter.
+
+#ifndef WRENVALE_WELCOME_NEWSLETTER_H
+#define WRENVALE_WELCOME_NEWSLETTER_H
+
+#include <string>
+
+#include "platform/Alerts.h"
+
+namespace wrenvale {
+
+class Endpoints;
+class KVXWrenvale;
+
+namespace platform {
+class Localization;
+class URLLoading;
+} // namespace platform
+
+namespace welcome {
+
+/// Sends the address, encrypted for the maker, and drops the answer. An address that cannot be
+/// encrypted (too long for the key, as a rule) is sent as "(null)". Blocks until the exchange is
+/// over; background threads only, several at once.
+void deliverSubscription(const std::string& address, const KVXWrenvale& service,
+                         const Endpoints& endpoints, platform::URLLoading& urlLoading);
+
+/// Tells that an address was refused.
+platform::Alert invalidAddressAlert(const platform::Localization& localization);
+
+} // namespace welcome
+
+} // namespace wrenvale
+
+#endif
