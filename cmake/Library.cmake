@@ -5,22 +5,28 @@ wrenvale_embed("${WRENVALE_PUBLIC_KEY_FILE}" wrenvale_public_key public_key_sour
 wrenvale_embed("${PROJECT_SOURCE_DIR}/resources/DroidSans-Regular.ttf" wrenvale_droid_sans
   font_source)
 
-add_library(Wrenvale SHARED
-  core/SharedInstance.cpp
-  "${PROJECT_BINARY_DIR}/BuildConfiguration.cpp"
-  "${font_source}"
-  "${public_key_source}")
+# The library under another target's name and with other embedded files: tests and benchmarks put
+# such a variant in the library's place.
+function(wrenvale_library target font_source public_key_source)
+  add_library(${target} SHARED
+    "${PROJECT_SOURCE_DIR}/core/SharedInstance.cpp"
+    "${PROJECT_BINARY_DIR}/BuildConfiguration.cpp"
+    "${font_source}"
+    "${public_key_source}")
+  target_link_libraries(${target} PRIVATE wrenvale_flags wrenvale_logic wrenvale_linux wrenvale_qt)
+  target_link_options(${target} PRIVATE -Wl,--as-needed -Wl,-Bsymbolic-functions)
+  set_target_properties(${target} PROPERTIES
+    OUTPUT_NAME wrenvale
+    VERSION ${PROJECT_VERSION}
+    SOVERSION ${PROJECT_VERSION_MAJOR})
+endfunction()
+
+wrenvale_library(Wrenvale "${font_source}" "${public_key_source}")
 add_library(Wrenvale::Wrenvale ALIAS Wrenvale)
-target_link_libraries(Wrenvale PRIVATE wrenvale_flags wrenvale_logic wrenvale_linux wrenvale_qt)
-target_link_options(Wrenvale PRIVATE -Wl,--as-needed -Wl,-Bsymbolic-functions)
 target_compile_features(Wrenvale PUBLIC cxx_std_20)
 target_include_directories(Wrenvale INTERFACE
   "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>"
   "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>")
-set_target_properties(Wrenvale PROPERTIES
-  OUTPUT_NAME wrenvale
-  VERSION ${PROJECT_VERSION}
-  SOVERSION ${PROJECT_VERSION_MAJOR})
 # The net module is loaded at run time, so nothing else makes the build tree's library complete.
 add_dependencies(Wrenvale wrenvale_net)
 

@@ -1,5 +1,6 @@
-// The window that shows the maker's page, as its controller commands it. The window decides nothing:
-// it reports what the page and the user do, asks what it may do, and shows what it is told.
+// The window that shows the maker's page, as its controller commands it. The window decides
+// nothing: it reports what the page and the user do, asks what it may do, and shows what it is
+// told.
 
 #ifndef WRENVALE_PLATFORM_RECOMMENDERWINDOW_H
 #define WRENVALE_PLATFORM_RECOMMENDERWINDOW_H
@@ -53,8 +54,8 @@ struct ScriptMethod {
   int arguments = 0; ///< how many it takes; missing ones arrive as null, further ones not at all
 };
 
-/// Called on the main thread, never from within a call of the window's, but for windowWillClose(). The
-/// delegate may close the window, or let go of it, from any of these.
+/// Called on the main thread, never from within a call of the window's, but for windowWillClose().
+/// The delegate may close the window, or let go of it, from any of these.
 class RecommenderWindowDelegate {
 public:
   virtual ~RecommenderWindowDelegate() = default;
@@ -75,8 +76,8 @@ public:
 
 /// Made from the layout "Recommender", hidden. Main thread only. Destroying it closes it without
 /// telling the delegate, and does no harm while one of the delegate's calls or a sheet's handler is
-/// under way. A window whose web view cannot be had (no module, engine that does not start) behaves like one whose page
-/// cannot be fetched.
+/// under way. A window whose web view cannot be had (no module, engine that does not start) behaves
+/// like one whose page cannot be fetched.
 class RecommenderWindow {
 public:
   virtual ~RecommenderWindow() = default;

@@ -1,6 +1,6 @@
 // What the framework adds to a host's launch: the same host with and without it, started in turns,
-// from the start of the process to the end of its event loop's first turn. Says medians, and the median
-// of the paired differences, of time and memory, and the instructions that callgrind counts.
+// from the start of the process to the end of its event loop's first turn. Says medians, and the
+// median of the paired differences, of time and memory, and the instructions that callgrind counts.
 //
 // usage: benchmark-launch [pairs]   (default 100; callgrind is left out when it is not installed)
 
@@ -33,8 +33,7 @@ struct Variant {
 };
 
 const Variant kBare = {"without the framework", BARE_HOST};
-const Variant kVariants[] = {{"with it, font left out", NO_FONT_HOST},
-                             {"with it", FRAMEWORK_HOST}};
+const Variant kVariants[] = {{"with it, font left out", NO_FONT_HOST}, {"with it", FRAMEWORK_HOST}};
 
 double median(std::vector<double> values) {
   std::sort(values.begin(), values.end());
@@ -44,7 +43,8 @@ double median(std::vector<double> values) {
 std::string outputOf(const std::string& command) {
   std::string text;
   FILE* pipe = popen(command.c_str(), "r");
-  for (int c = 0; pipe && (c = std::fgetc(pipe)) != EOF;) text += static_cast<char>(c);
+  for (int c = 0; pipe && (c = std::fgetc(pipe)) != EOF;)
+    text += static_cast<char>(c);
   if (pipe) pclose(pipe);
   return text;
 }

@@ -17,7 +17,8 @@ namespace wrenvale {
 WRENVALE_EXPORT std::string urlEncoded(std::string_view text);
 
 /// The same for text that may be missing; nothing gives nothing.
-template <std::same_as<std::optional<std::string>> Text> Text urlEncoded(const Text& text) {
+template <std::same_as<std::optional<std::string>> Text>
+Text urlEncoded(const Text& text) {
   return text ? Text(urlEncoded(std::string_view(*text))) : Text();
 }
 

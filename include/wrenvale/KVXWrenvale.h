@@ -98,18 +98,19 @@ public:
   /// Asks for the welcome window. True when it is due: on the host's first run, and when the
   /// maker's server has asked installed copies to show it again. The window appears once its page
   /// has loaded and asks to be shown; one that is open already is left as it is. Closing it settles
-  /// what the server asked for, and so does a page that cannot be fetched. The request is remembered
-  /// for this run, so that an answer of the server that comes later can still open the window.
+  /// what the server asked for, and so does a page that cannot be fetched. The request is
+  /// remembered for this run, so that an answer of the server that comes later can still open the
+  /// window.
   bool triggerWelcomeWindow();
   /// Opens the window for subscribing to the newsletter, or brings the open one to the front.
   void subscribeToNewsletter();
 
   // What the host knows and the framework cannot.
 
-  /// Sets the question whether the user has bought anything in the host, in place of the one before;
-  /// an empty one, as at first, answers no. It decides which other applications are recommended, and
-  /// is called on a background thread, any number of times; a call under way may still end after
-  /// this returns. An exception that it throws counts as no. Any thread.
+  /// Sets the question whether the user has bought anything in the host, in place of the one
+  /// before; an empty one, as at first, answers no. It decides which other applications are
+  /// recommended, and is called on a background thread, any number of times; a call under way may
+  /// still end after this returns. An exception that it throws counts as no. Any thread.
   void setPurchaseRecord(std::function<bool()> purchaseRecord);
 
   // Asking for a rating. Main thread only.

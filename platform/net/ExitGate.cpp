@@ -28,6 +28,12 @@ struct ClosesWithItsThread {
   ~ClosesWithItsThread() { closeExitGate(); }
 };
 
+// The routine that was added last is called first.
+void closeBeforeApplicationObject() {
+  qRemovePostRoutine(closeExitGate);
+  qAddPostRoutine(closeExitGate);
+}
+
 // The main thread's part: asked for once, done when its event loop comes to it.
 class MainThreadPart {
 public:
@@ -43,6 +49,7 @@ public:
 private:
   void carryOut() {
     [[maybe_unused]] static thread_local const ClosesWithItsThread hook;
+    closeBeforeApplicationObject();
     const std::lock_guard lock(mutex_);
     done_ = true;
     changed_.notify_all();
@@ -70,11 +77,10 @@ bool armExitGateForQt(const std::stop_token& stop, Clock::time_point deadline) {
   static auto& mainThreadPart = *new MainThreadPart;
   // For a process that another thread ends.
   armExitGate();
-  // For a host that destroys its application object.
-  qRemovePostRoutine(closeExitGate);
-  qAddPostRoutine(closeExitGate);
-  if (!QCoreApplication::instance()) return false;
-  return mainThreadPart.waitUntilDone(stop, deadline);
+  // Until the main thread has done its part, nothing of Qt is touched but to ask it.
+  if (!QCoreApplication::instance() || !mainThreadPart.waitUntilDone(stop, deadline)) return false;
+  closeBeforeApplicationObject();
+  return QCoreApplication::instance() != nullptr;
 }
 
 } // namespace wrenvale::platform

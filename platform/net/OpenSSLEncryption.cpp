@@ -8,6 +8,8 @@
 #include <openssl/x509.h>
 
 #include <limits>
+#include <memory>
+#include <stop_token>
 
 #include "platform/net/CryptoSetUp.h"
 #include "platform/net/ExitGate.h"

@@ -1,6 +1,7 @@
 #include "platform/net/QtURLLoading.h"
 
 #include <algorithm>
+#include <exception>
 
 #include <QHostAddress>
 #include <QNetworkProxyFactory>

@@ -45,8 +45,10 @@ void watchDispatcher() {
 } // namespace
 
 void callWhenLaunched(std::function<void()> handler) {
-  if (waiting().empty()) qAddPreRoutine(watchDispatcher);
+  const bool isFirst = waiting().empty();
   waiting().push_back(std::move(handler));
+  // Called at once where the application object is there already.
+  if (isFirst) qAddPreRoutine(watchDispatcher);
 }
 
 } // namespace wrenvale::platform

@@ -44,7 +44,7 @@ TEST(JSONReader, ReadsEveryShape) {
       {"[\"\",\"\xC3\xA9\",\"\\u00e9\\ud83d\\ude00\\n\\/\"]",
        Array{"", "\xC3\xA9", "\xC3\xA9\xF0\x9F\x98\x80\n/"}},
       {"[\"a\\u0000b\"]", Array{nul}},
-      {"[[],{},[[{}]]]", Array{Array{}, Dictionary{}, Array{Array{Dictionary{}}}}},
+      {"[[],{},[[{}]]]", Array{Array{}, Dictionary{}, Array{Value(Array{Value(Dictionary{})})}}},
       {"{\"b\":1,\"a\":{\"c\":[2]},\"\":3}",
        Dictionary{{"a", Dictionary{{"c", Array{2}}}}, {"b", 1}, {"", 3}}},
       {"{\"a\":1,\"b\":2,\"a\":3}", Dictionary{{"a", 3}, {"b", 2}}},

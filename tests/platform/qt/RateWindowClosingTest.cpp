@@ -14,14 +14,19 @@ protected:
 
   /// Opens over a parent and runs modally; `during` is called from the modal loop.
   bool runModal(const std::function<void()>& during) {
-    return runInApplication([&] {
+    bool ran = false;
+    const bool ended = runInApplication([&] {
       parent_ = std::make_unique<QWidget>();
       openOver(*parent_);
-      QTimer::singleShot(0, qApp, during);
+      QTimer::singleShot(0, qApp, [&] {
+        ran = true;
+        during();
+      });
       RateWindow& window = *window_; // which `during` may destroy
       window.runModal();
       EXPECT_FALSE(widget() && widget()->isVisible());
     });
+    return ended && ran;
   }
 
   std::unique_ptr<QWidget> parent_;

@@ -21,16 +21,17 @@
 
 namespace wrenvale::platform {
 
-/// Runs `body` in the application's event loop, and what it posted; false when that took too long.
+/// Runs `body` in the application's event loop; false when that took too long.
 inline bool runInApplication(const std::function<void()>& body) {
+  QObject context; // takes along what is still posted when the loop ends
   bool ended = false;
-  QTimer::singleShot(0, qApp, [&] {
+  const auto exit = [] { QCoreApplication::exit(); };
+  QTimer::singleShot(0, &context, [&] {
     body();
     ended = true;
-    QMetaObject::invokeMethod(
-        qApp, [] { QCoreApplication::exit(); }, Qt::QueuedConnection);
+    QTimer::singleShot(0, &context, exit);
   });
-  QTimer::singleShot(5000, qApp, [] { QCoreApplication::exit(); });
+  QTimer::singleShot(20000, &context, exit);
   QApplication::exec();
   return ended;
 }
