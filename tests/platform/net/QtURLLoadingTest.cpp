@@ -128,7 +128,8 @@ TEST(QtURLLoading, FollowsRedirectionsWithinBounds) {
   // "/n" leads to "/n-1" and so on to the body.
   const LoopbackServer countdown([](Client& client) {
     const auto steps = std::stoi(client.head().substr(std::string_view("get /").size()));
-    client.send(steps == 0 ? answerWith("there") : redirection("/" + std::to_string(steps - 1)));
+    client.send(steps == 0 ? answerWith("there")
+                           : redirection(std::string("/").append(std::to_string(steps - 1))));
   });
   EXPECT_EQ(loaded(countdown.url("/10")), "there");
   EXPECT_EQ(loaded(countdown.url("/11")), std::nullopt);
