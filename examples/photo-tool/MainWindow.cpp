@@ -11,6 +11,7 @@
 #include <wrenvale/KVXWrenvale.h>
 
 #include "PictureView.h"
+#include "RatingMenu.h"
 #include "SamplePicture.h"
 #include "WelcomeStatus.h"
 
@@ -30,6 +31,7 @@ MainWindow::MainWindow()
   statusBar()->addWidget(status_);
   fillFileMenu();
   fillViewMenu();
+  menuBar()->addMenu(new RatingMenu(*this));
   fillHelpMenu();
   resize(960, 680);
   closePicture();

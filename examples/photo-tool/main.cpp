@@ -10,6 +10,7 @@
 
 #include "MainWindow.h"
 #include "Options.h"
+#include "Script.h"
 
 namespace {
 
@@ -34,6 +35,8 @@ int main(int argc, char** argv) {
   window.show();
   if (!options.picture.isEmpty()) window.open(options.picture);
   quitAsAsked(application, window, options);
+  if (!options.steps.isEmpty()) new Script(options.steps, &application);
+
 
   window.setWelcomeWindowDue(KVXWrenvale::sharedInstance().triggerWelcomeWindow());
   return application.exec();

@@ -1,0 +1,69 @@
+#include "Screen.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QMainWindow>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace screen {
+
+namespace {
+
+// Main windows first.
+QWidgetList windows() {
+  QWidgetList result = QApplication::topLevelWidgets();
+  result.removeIf([](const QWidget* window) { return !window->isVisible(); });
+  std::stable_partition(result.begin(), result.end(),
+                        [](QWidget* window) { return qobject_cast<QMainWindow*>(window); });
+  return result;
+}
+
+// Sent to the window and not to a widget, so that it reaches what a user would reach.
+void send(const Spot& spot, QEvent::Type type, QPointF position,
+          Qt::MouseButton button = Qt::NoButton, Qt::MouseButtons held = Qt::NoButton) {
+  if (!spot.window) return;
+  QMouseEvent event(type, position, position, spot.window->mapToGlobal(position), button, held,
+                    Qt::NoModifier);
+  QCoreApplication::sendEvent(spot.window, &event);
+}
+
+} // namespace
+
+QImage picture() {
+  QRect whole;
+  for (const auto* window : windows())
+    whole |= window->geometry();
+  QImage result(whole.size(), QImage::Format_RGB32);
+  result.fill(Qt::white);
+  QPainter painter(&result);
+  for (auto* window : windows())
+    painter.drawPixmap(window->geometry().topLeft() - whole.topLeft(), window->grab());
+  return result;
+}
+
+bool isWithinReach(const QWidget& window) {
+  const QWidget* modal = QApplication::activeModalWidget();
+  return !modal || modal == &window;
+}
+
+Spot spotOf(const QWidget& widget) {
+  const QWidget& window = *widget.window();
+  const QPoint middle = widget.mapTo(&window, widget.rect().center());
+  if (!widget.isVisible() || !isWithinReach(window) || window.childAt(middle) != &widget) return {};
+  return {window.windowHandle(), middle};
+}
+
+void hover(const Spot& spot) {
+  send(spot, QEvent::MouseMove, {1, 1});
+  send(spot, QEvent::MouseMove, spot.position);
+}
+
+void click(const Spot& spot) {
+  hover(spot);
+  send(spot, QEvent::MouseButtonPress, spot.position, Qt::LeftButton, Qt::LeftButton);
+  send(spot, QEvent::MouseButtonRelease, spot.position, Qt::LeftButton);
+}
+
+} // namespace screen
