@@ -119,3 +119,15 @@ QImage samplePicture(QSize size) {
   drawGlitter(painter, water);
   return picture;
 }
+
+QIcon applicationIcon() {
+  constexpr int side = 256;
+  QPixmap icon(side, side);
+  icon.fill(Qt::transparent);
+  QPainter painter(&icon);
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QBrush(samplePicture(icon.size())));
+  painter.drawRoundedRect(icon.rect().adjusted(8, 8, -8, -8), side * 0.2, side * 0.2);
+  return icon;
+}

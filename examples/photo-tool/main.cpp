@@ -10,6 +10,7 @@
 
 #include "MainWindow.h"
 #include "Options.h"
+#include "SamplePicture.h"
 #include "Script.h"
 
 namespace {
@@ -31,12 +32,12 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   const auto options = Options::ofApplication(application);
 
+  QApplication::setWindowIcon(applicationIcon());
   MainWindow window;
   window.show();
   if (!options.picture.isEmpty()) window.open(options.picture);
   quitAsAsked(application, window, options);
   if (!options.steps.isEmpty()) new Script(options.steps, &application);
-
 
   window.setWelcomeWindowDue(KVXWrenvale::sharedInstance().triggerWelcomeWindow());
   return application.exec();
