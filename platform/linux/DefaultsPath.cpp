@@ -1,13 +1,10 @@
 #include "platform/linux/DefaultsPath.h"
 
+#include "platform/linux/Text.h"
+
 namespace wrenvale::platform {
 
 namespace {
-
-bool isPlainFileName(std::string_view name) {
-  return !name.empty() && name != "." && name != ".." &&
-         name.find_first_of(std::string_view("/\0", 2)) == std::string_view::npos;
-}
 
 std::filesystem::path absolutePath(const Environment& environment, const char* name) {
   const auto value = variable(environment, name);

@@ -15,10 +15,8 @@ constexpr std::string_view kSuffix = ".desktop";
 // Entries with all their translations stay well below.
 constexpr std::size_t kLongestEntry = 256UL * 1024;
 
-bool isPlainFileName(std::string_view name) {
-  constexpr std::string_view kForbidden("/\0\n\r", 4);
-  return !name.empty() && name != "." && name != ".." && name.size() + kSuffix.size() <= NAME_MAX &&
-         name.find_first_of(kForbidden) == std::string_view::npos;
+bool mayNameAnEntry(std::string_view identifier) {
+  return isPlainFileName(identifier) && identifier.size() + kSuffix.size() <= NAME_MAX;
 }
 
 bool saysHidden(std::string_view line) {
@@ -74,7 +72,7 @@ void DesktopEntries::addFolder(std::string_view dataDirectory) {
 
 std::optional<std::string>
 DesktopEntries::URLForApplicationWithBundleIdentifier(std::string_view bundleIdentifier) const {
-  if (!isPlainFileName(bundleIdentifier)) return std::nullopt;
+  if (!mayNameAnEntry(bundleIdentifier)) return std::nullopt;
   std::string path;
   path.reserve(longestFolder_ + bundleIdentifier.size() + kSuffix.size());
   for (const auto& folder : folders_) {

@@ -24,6 +24,13 @@ inline std::string_view trimmed(std::string_view text) {
   return text.substr(0, text.find_last_not_of(kBlank) + 1);
 }
 
+/// Whether a folder may have a file of this name: one step of a path, and nothing that misleads.
+inline bool isPlainFileName(std::string_view name) {
+  constexpr std::string_view kForbidden("/\0\n\r", 4);
+  return !name.empty() && name != "." && name != ".." &&
+         name.find_first_of(kForbidden) == std::string_view::npos;
+}
+
 } // namespace wrenvale::platform
 
 #endif
