@@ -38,6 +38,7 @@ RateWindowWidget::RateWindowWidget(Events events)
     , events_(std::move(events))
     , ui_(std::make_unique<Ui::RateWindow>())
     , push_((ui_->setupUi(this), new PushTransition(*ui_->bottomContainerView))) {
+  view_ = ui_->bottomContainerView->currentWidget();
   setObjectName("Rate Window");
   setAttribute(Qt::WA_QuitOnClose, false);
   ui_->closeButton->hide();
@@ -65,11 +66,11 @@ void RateWindowWidget::setAppName(const QString& appName) {
 
 void RateWindowWidget::setView(RateView view, bool pushed) {
   QWidget* const views[] = {ui_->rateView, ui_->appstoreView, ui_->contactView};
-  QWidget* next = views[static_cast<int>(view)];
+  view_ = views[static_cast<int>(view)];
   if (pushed && isVisible())
-    push_->push(*next);
+    push_->push(*view_);
   else
-    ui_->bottomContainerView->setCurrentWidget(next);
+    ui_->bottomContainerView->setCurrentWidget(view_);
 }
 
 void RateWindowWidget::connectButton(QPushButton& button, RateButton name) {
@@ -81,7 +82,7 @@ void RateWindowWidget::connectButton(QPushButton& button, RateButton name) {
 }
 
 bool RateWindowWidget::isInPresentView(const QWidget& widget) const {
-  return ui_->bottomContainerView->currentWidget()->isAncestorOf(&widget);
+  return view_->isAncestorOf(&widget);
 }
 
 bool RateWindowWidget::eventFilter(QObject* watched, QEvent* event) {

@@ -74,6 +74,7 @@ private:
   const Events events_;
   const std::unique_ptr<Ui::RateWindow> ui_;
   PushTransition* const push_;
+  QWidget* view_ = nullptr; ///< the present one; the container shows it only in a while
   QString appName_;
   QWidget* parent_ = nullptr;
   int returnsLeft_ = 0;

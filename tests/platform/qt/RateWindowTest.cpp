@@ -88,6 +88,21 @@ TEST_F(QtRateWindowTest, HoveringTellsTheModeOfTheTrackingArea) {
   EXPECT_THAT(delegate_.calls, ElementsAre("entered 1", "exited 1", "entered 2", "button 0"));
 }
 
+// On a display the old view is hidden, and so left by the pointer, before the new one is there.
+TEST_F(QtRateWindowTest, AViewThatGoesFromUnderThePointerIsNotLeft) {
+  if (QGuiApplication::platformName() == "offscreen") GTEST_SKIP() << "has no pointer";
+  delegate_.onButton = [&](RateButton) { window_->setView(RateView::kAppstore, true); };
+  open();
+  auto& like = outlet("likeButton");
+  const QPoint place = like.mapTo(widget(), like.rect().center());
+  QTest::mouseMove(widget()->windowHandle(), place - QPoint(3, 3));
+  QTest::mouseMove(widget()->windowHandle(), place);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !delegate_.calls.empty(); }));
+  QTest::mouseClick(widget()->windowHandle(), Qt::LeftButton, {}, place);
+  ASSERT_TRUE(waitForPush());
+  EXPECT_THAT(delegate_.calls, ElementsAre("entered 2", "button 0"));
+}
+
 TEST_F(QtRateWindowTest, WorksByKeyboard) {
   pushOnLike();
   open();
