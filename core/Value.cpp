@@ -1,6 +1,8 @@
 #include "core/Value.h"
 
+#include <algorithm>
 #include <cmath>
+#include <functional>
 #include <limits>
 
 namespace wrenvale {
@@ -10,6 +12,11 @@ namespace {
 constexpr auto kMax = std::numeric_limits<std::int64_t>::max();
 constexpr auto kMin = std::numeric_limits<std::int64_t>::min();
 
+std::optional<std::string_view> viewOf(const Value& value) {
+  const auto* string = value.string();
+  return string ? std::optional<std::string_view>(*string) : std::nullopt;
+}
+
 class ArrayCollection final : public Value::Collection {
 public:
   explicit ArrayCollection(Value::Array items)
@@ -17,9 +24,11 @@ public:
   bool isDictionary() const override { return false; }
   std::size_t size() const override { return items_.size(); }
   Value at(std::size_t index) const override { return items_[index]; }
+  std::optional<std::string_view> stringAt(std::size_t index) const override {
+    return viewOf(items_[index]);
+  }
   std::string_view keyAt(std::size_t) const override { return {}; }
-  Value find(std::string_view) const override { return {}; }
-  bool contains(std::string_view) const override { return false; }
+  std::optional<std::size_t> indexOf(std::string_view) const override { return std::nullopt; }
 
 private:
   const Value::Array items_;
@@ -36,12 +45,18 @@ public:
   bool isDictionary() const override { return true; }
   std::size_t size() const override { return order_.size(); }
   Value at(std::size_t index) const override { return order_[index]->second; }
-  std::string_view keyAt(std::size_t index) const override { return order_[index]->first; }
-  Value find(std::string_view key) const override {
-    const auto found = items_.find(key);
-    return found == items_.end() ? Value() : found->second;
+  std::optional<std::string_view> stringAt(std::size_t index) const override {
+    return viewOf(order_[index]->second);
   }
-  bool contains(std::string_view key) const override { return items_.contains(key); }
+  std::string_view keyAt(std::size_t index) const override { return order_[index]->first; }
+  std::optional<std::size_t> indexOf(std::string_view key) const override {
+    const auto keyOf = [](const Value::Dictionary::value_type* item) -> const std::string& {
+      return item->first;
+    };
+    const auto found = std::ranges::lower_bound(order_, key, std::less<>(), keyOf);
+    if (found == order_.end() || (*found)->first != key) return std::nullopt;
+    return found - order_.begin();
+  }
 
 private:
   const Value::Dictionary items_;
@@ -99,8 +114,9 @@ bool sameChildren(const Value& a, const Value& b) {
   for (std::size_t i = 0; i < a.size(); ++i) {
     if (!a.isDictionary()) {
       if (!(a.at(i) == b.at(i))) return false;
-    } else if (!b.contains(a.keyAt(i)) || !(a.at(i) == b.find(a.keyAt(i)))) {
-      return false;
+    } else {
+      const auto index = b.indexOf(a.keyAt(i));
+      if (!index || !(a.at(i) == b.at(*index))) return false;
     }
   }
   return true;
@@ -115,11 +131,6 @@ Value::Value(Array array)
 
 Value::Value(Dictionary dictionary)
     : payload_(std::make_shared<const DictionaryCollection>(std::move(dictionary))) {}
-
-const Value::Collection* Value::collection() const {
-  const auto* shared = std::get_if<std::shared_ptr<const Collection>>(&payload_);
-  return shared ? shared->get() : nullptr;
-}
 
 bool Value::isArray() const {
   const auto* children = collection();
@@ -142,19 +153,28 @@ std::size_t Value::size() const {
 }
 
 Value Value::at(std::size_t index) const {
-  return index < size() ? collection()->at(index) : Value();
+  const auto* children = collection();
+  return children && index < children->size() ? children->at(index) : Value();
 }
 
 std::string_view Value::keyAt(std::size_t index) const {
-  return isDictionary() && index < size() ? collection()->keyAt(index) : std::string_view();
+  const auto* children = collection();
+  return children && index < children->size() ? children->keyAt(index) : std::string_view();
+}
+
+std::optional<std::string_view> Value::stringAt(std::size_t index) const {
+  const auto* children = collection();
+  return children && index < children->size() ? children->stringAt(index) : std::nullopt;
+}
+
+std::optional<std::size_t> Value::indexOf(std::string_view key) const {
+  const auto* children = collection();
+  return children ? children->indexOf(key) : std::nullopt;
 }
 
 Value Value::find(std::string_view key) const {
-  return isDictionary() ? collection()->find(key) : Value();
-}
-
-bool Value::contains(std::string_view key) const {
-  return isDictionary() && collection()->contains(key);
+  const auto index = indexOf(key);
+  return index ? collection()->at(*index) : Value();
 }
 
 Value::Array Value::mutableArray() const {

@@ -34,7 +34,7 @@ std::optional<Exclusion> shouldExclude(const Candidate& candidate, const Host& h
   if (!isInstalled) return std::nullopt;
   if (isInstalled(identifier)) return Exclusion{Reason::Installed};
   for (const Text& other : candidate.exclude)
-    if (other && isInstalled(*other)) return Exclusion{Reason::ExcludedBy, *other};
+    if (other && isInstalled(*other)) return Exclusion{Reason::ExcludedBy, std::string(*other)};
   return std::nullopt;
 }
 

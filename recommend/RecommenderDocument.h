@@ -16,24 +16,35 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <type_traits>
 
 #include "core/Value.h"
 
 namespace wrenvale::recommend {
 
-/// The text that a value stands for: a string as it is, a number in decimal digits. Null, truth
-/// values, arrays and objects stand for no text. Used like an optional string.
+/// The text that a child of an array or a dictionary stands for: a string as it is, a number in
+/// decimal digits. Null, truth values, arrays and objects stand for no text. Used like an optional
+/// string. What is a string in the document stays there: the text lives as long as the array or
+/// dictionary that it was read from, or one that contains it.
 class Text {
 public:
   Text() = default;
-  explicit Text(Value value);
+  Text(const Value& parent, std::size_t index);
+  Text(const Value& dictionary, std::string_view key);
 
-  explicit operator bool() const { return value_.string() != nullptr; }
-  const std::string& operator*() const { return *value_.string(); }
+  explicit operator bool() const { return present_; }
+  std::string_view operator*() const { return {view_ ? view_ : digits_, size_}; }
   operator std::optional<std::string_view>() const;
 
 private:
-  Value value_; ///< a string or null: what the document hands out anyway is not copied once more
+  template <class Number>
+  void write(Number number);
+
+  const char* view_ = nullptr; ///< null for a number
+  std::size_t size_ = 0;
+  bool present_ = false;
+  char digits_[24]; ///< the longest there is: -2.2250738585072014e-308
 };
 
 /// The entries of an array, made one by one as a loop goes over them.
@@ -45,7 +56,12 @@ public:
     Iterator(const Value& array, std::size_t index)
         : array_(array)
         , index_(index) {}
-    Entry operator*() const { return Entry(array_.at(index_)); }
+    Entry operator*() const {
+      if constexpr (std::is_constructible_v<Entry, const Value&, std::size_t>)
+        return Entry(array_, index_);
+      else
+        return Entry(array_.at(index_));
+    }
     Iterator& operator++() { return ++index_, *this; }
     bool operator!=(const Iterator& other) const { return index_ != other.index_; }
 
@@ -71,7 +87,7 @@ public:
   explicit StableVersion(Value entry)
       : entry_(std::move(entry)) {}
 
-  Text bundleID() const { return Text(entry_.find("bundle_id")); }
+  Text bundleID() const { return Text(entry_, "bundle_id"); }
   /// The newest build that may show them.
   std::int64_t buildNumber() const { return integerValue(entry_.find("build_number")); }
   /// The key is there, whatever its value.
@@ -87,7 +103,7 @@ public:
   explicit Dependency(Value entry)
       : entry_(std::move(entry)) {}
 
-  Text bundleID() const { return Text(entry_.find("bundle_id")); }
+  Text bundleID() const { return Text(entry_, "bundle_id"); }
   /// Counts only for the host itself, while the user has bought nothing in it.
   bool inAppCheck() const { return truthValue(entry_.find("in_app_check")); }
   /// 100 when the key is absent; a value that is no number is 0.
@@ -107,8 +123,9 @@ private:
 
 /// An entry of "apps": an application that may be recommended.
 struct Candidate {
-  explicit Candidate(const Value& entry);
+  explicit Candidate(Value entry);
 
+  Value entry;                      ///< as it stands in the document
   Text bundleID;                    ///< "bundle_id"
   Text name;                        ///< "sp_name"
   Text icon;                        ///< "sp_icon", a file name

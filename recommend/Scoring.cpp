@@ -53,7 +53,8 @@ std::size_t bytesOfText(const Candidate& candidate) {
 
 std::shared_ptr<KVXAppRecommendation> recordOf(const Candidate& candidate, bool polite,
                                                const Context& context) {
-  const std::string iconURL = context.iconBase + (candidate.icon ? *candidate.icon : "(null)");
+  const auto icon = candidate.icon ? *candidate.icon : "(null)";
+  const std::string iconURL = std::string(context.iconBase).append(icon);
   auto record = std::make_shared<KVXAppRecommendation>(context.fileManager);
   record->reserveText(bytesOfText(candidate) + iconURL.size());
   record->setBundleID(candidate.bundleID);

@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <variant>
@@ -47,11 +48,13 @@ public:
     virtual std::size_t size() const = 0;
     /// The child at `index`, which is below size().
     virtual Value at(std::size_t index) const = 0;
-    /// The key of the child at `index`; of a dictionary only.
+    /// The child at `index` without a copy of its text, when it is a string. Lives as long as this
+    /// collection, or one that contains it.
+    virtual std::optional<std::string_view> stringAt(std::size_t index) const = 0;
+    /// The key of the child at `index`; empty in an array. Lives as long as the collection.
     virtual std::string_view keyAt(std::size_t index) const = 0;
-    /// The child under `key`; null when there is none. Of a dictionary only.
-    virtual Value find(std::string_view key) const = 0;
-    virtual bool contains(std::string_view key) const = 0;
+    /// Where the child under `key` is; nothing when there is none, as in an array.
+    virtual std::optional<std::size_t> indexOf(std::string_view key) const = 0;
   };
 
   Value() = default;
@@ -100,13 +103,19 @@ public:
   std::size_t size() const;
   /// The child at `index` in order; null when out of range.
   Value at(std::size_t index) const;
+  /// The same, when that child is a string, without a copy of its text. Lives as long as this
+  /// collection, or one that contains it.
+  std::optional<std::string_view> stringAt(std::size_t index) const;
   /// The key of the dictionary's child at `index`; empty when there is none. Lives as long as the
   /// dictionary.
   std::string_view keyAt(std::size_t index) const;
+  /// Where the dictionary's child under `key` is; nothing when there is none or this is no
+  /// dictionary.
+  std::optional<std::size_t> indexOf(std::string_view key) const;
   /// The dictionary's child under `key`; null when there is none or this is no dictionary.
   Value find(std::string_view key) const;
   /// Whether the dictionary has `key`, be its value null or not.
-  bool contains(std::string_view key) const;
+  bool contains(std::string_view key) const { return indexOf(key).has_value(); }
 
   /// Copies of the children that the caller may change; empty for a value of another type.
   Array mutableArray() const;
@@ -116,7 +125,10 @@ public:
   WRENVALE_EXPORT friend bool operator==(const Value& a, const Value& b);
 
 private:
-  const Collection* collection() const;
+  const Collection* collection() const {
+    const auto* shared = std::get_if<std::shared_ptr<const Collection>>(&payload_);
+    return shared ? shared->get() : nullptr;
+  }
 
   std::variant<std::monostate, bool, std::int64_t, double, std::string, Date,
                std::shared_ptr<const Data>, std::shared_ptr<const Collection>>

@@ -63,11 +63,15 @@ TEST(Value, CollectionsAreReadByIndexAndKey) {
   EXPECT_EQ(list.size(), 3U);
   EXPECT_EQ(list.at(1), Value("two"));
   EXPECT_TRUE(list.at(3).isNull());
+  EXPECT_EQ(list.stringAt(1), "two");
+  EXPECT_FALSE(list.stringAt(0));
+  EXPECT_FALSE(list.stringAt(3));
   EXPECT_TRUE(list.find("two").isNull());
 
   const Value dictionary = Value::Dictionary{{"b", {}}, {"a", list}};
   EXPECT_TRUE(dictionary.isDictionary());
   EXPECT_EQ(dictionary.keyAt(0), "a");
+  EXPECT_EQ(dictionary.indexOf("b"), 1U);
   EXPECT_EQ(dictionary.find("a"), list);
   EXPECT_TRUE(dictionary.contains("b")) << "a null is there all the same";
   EXPECT_FALSE(dictionary.contains("c"));

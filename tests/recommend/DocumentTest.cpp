@@ -24,6 +24,8 @@ TEST(RecommenderDocument, ReadsTextFromWhateverStandsThere) {
       {"-3", "-3"},
       {"1.5", "1.5"},
       {"1e300", "1e+300"},
+      {"-2.2250738585072014e-308", "-2.2250738585072014e-308"},
+      {"-9223372036854775808", "-9223372036854775808"},
       {"true", std::nullopt},
       {"null", std::nullopt},
       {R"(["a"])", std::nullopt},

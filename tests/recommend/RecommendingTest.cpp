@@ -93,14 +93,14 @@ TEST_F(RecommendTest, GivesAccountOfEveryDecision) {
     }
     void politeness(bool polite) override { text += polite ? "polite; " : "not polite; "; }
     void leftOut(const Candidate& candidate, const Exclusion& exclusion) override {
-      text += (candidate.bundleID ? *candidate.bundleID : "?") + " out " +
+      text += std::string(candidate.bundleID ? *candidate.bundleID : "?") + " out " +
               std::to_string(static_cast<int>(exclusion.reason)) + exclusion.by + "; ";
     }
     void considering(const Candidate& candidate) override {
-      text += *candidate.bundleID + " from " + std::to_string(candidate.priorityScore);
+      text += std::string(*candidate.bundleID) + " from " + std::to_string(candidate.priorityScore);
     }
     void dependency(const Dependency& dependency, DependencyOutcome, std::int64_t earned) override {
-      text += " " + *dependency.bundleID() + "+" + std::to_string(earned);
+      text += " " + std::string(*dependency.bundleID()) + "+" + std::to_string(earned);
     }
     void built(const KVXAppRecommendation& record) override {
       text += " = " + std::to_string(record.points()) + "; ";

@@ -58,7 +58,7 @@ const char* meaningOf(DependencyOutcome outcome) {
 }
 
 std::optional<std::string> copied(const Text& text) {
-  return text ? std::optional(*text) : std::nullopt;
+  return text ? std::optional(std::string(*text)) : std::nullopt;
 }
 
 std::string overridesOf(const Dependency& dependency) {

@@ -129,6 +129,24 @@ TEST(JSONReader, SaysWhereATextIsWrong) {
   EXPECT_TRUE(read(nested(kJSONMaxDepth + 1)).object) << "an empty array is no further level";
 }
 
+// The window keeps small objects and large ones in different ways.
+TEST(JSONReader, ObjectsOfEverySizeKeepOneChildForEachKey) {
+  for (const int keys : {1, 2, 19, 20, 21, 60}) {
+    std::string text = "{\"twice\": \"first\"";
+    for (int i = 1; i < keys; ++i)
+      text += ", \"k" + std::to_string(i) + "\": \"" + std::to_string(i) + "\"";
+    const Value object = *read(text + ", \"twice\": \"last\"}").object;
+    ASSERT_EQ(object.size(), static_cast<std::size_t>(keys));
+    EXPECT_EQ(object.find("twice"), Value("last")) << keys;
+    EXPECT_FALSE(object.indexOf("k")) << keys;
+    for (std::size_t i = 0; i < object.size(); ++i) {
+      const auto key = object.keyAt(i);
+      EXPECT_EQ(object.indexOf(key), i) << keys;
+      EXPECT_EQ(object.stringAt(i), key == "twice" ? "last" : key.substr(1)) << keys;
+    }
+  }
+}
+
 TEST(JSONReader, WindowsOutliveTheirParentsAndServeManyThreads) {
   auto document = read("{\"list\":[{\"k\":\"v\"},7],\"k\":1}").object;
   ASSERT_TRUE(document);
