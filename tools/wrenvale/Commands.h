@@ -20,6 +20,7 @@ struct Command {
   int (*run)(int argc, char** argv);
 };
 
+int inbox(int argc, char** argv);
 int preview(int argc, char** argv);
 int serve(int argc, char** argv);
 

@@ -11,6 +11,7 @@
 #include "tools/wrenvale/RedirectPage.h"
 #include "tools/wrenvale/RequestLog.h"
 #include "tools/wrenvale/SiteFiles.h"
+#include "tools/wrenvale/Subscription.h"
 
 namespace wrenvale::kit {
 
@@ -42,8 +43,9 @@ void refuse(httplib::Response& response, int status, const char* text) {
 
 } // namespace
 
-DevelopmentServer::DevelopmentServer(std::filesystem::path folder, Log log)
+DevelopmentServer::DevelopmentServer(std::filesystem::path folder, Newsletter newsletter, Log log)
     : folder_(std::move(folder))
+    , newsletter_(std::move(newsletter))
     , log_(std::move(log)) {
   server_.set_socket_options(allowQuickRestart);
   server_.set_payload_max_length(kLongestBody);
@@ -84,13 +86,23 @@ bool DevelopmentServer::run(const std::function<void()>& untilAsked) {
   return well;
 }
 
-void DevelopmentServer::answer(const httplib::Request& request, httplib::Response& response) const {
+void DevelopmentServer::answer(const httplib::Request& request, httplib::Response& response) {
+  if (request.path == kSubscribePath && request.method == "GET")
+    return subscribe(request, response);
   if (const auto page = redirectPage(request.path))
     return response.set_content(*page, "text/html; charset=utf-8");
   const auto file = siteFile(folder_, request.path);
   const auto contents = file ? contentsOf(*file) : std::nullopt;
   if (!contents) return refuse(response, 404, "There is no such file.\n");
   response.set_content(*contents, contentType(*file));
+}
+
+void DevelopmentServer::subscribe(const httplib::Request& request, httplib::Response& response) {
+  const auto answer = newsletter_.take(request.get_param_value("data"));
+  response.status = answer.status;
+  response.set_content(answer.text + "\n", kPlainText);
+  const std::lock_guard guard(logging_);
+  log_(localTime() + " " + answer.text);
 }
 
 void DevelopmentServer::log(const httplib::Request& request, const httplib::Response& response) {

@@ -9,19 +9,21 @@
 #include <string>
 
 #include "tools/wrenvale/ListenAddress.h"
+#include "tools/wrenvale/Newsletter.h"
 #include "tools/wrenvale/VerbatimServer.h"
 
 namespace wrenvale::kit {
 
 /// Answers GET and HEAD with the files of a folder, and the addresses of redirects with a page that
-/// says where they lead. Nothing may be kept in a cache: the folder is being worked on.
+/// says where they lead; takes in subscriptions to the newsletter. Nothing may be kept in a cache:
+/// the folder is being worked on.
 class DevelopmentServer {
 public:
   using Log = std::function<void(const std::string& line)>;
 
-  /// `log` gets one line for each request as soon as it is answered; it is called on the server's
-  /// threads, one call at a time.
-  DevelopmentServer(std::filesystem::path folder, Log log);
+  /// `log` gets one line for each request as soon as it is answered, and before it one for what
+  /// came of a subscription; it is called on the server's threads, one call at a time.
+  DevelopmentServer(std::filesystem::path folder, Newsletter newsletter, Log log);
 
   /// Takes the address; port 0 stands for any that is free. The port, or -1 with errno set when it
   /// cannot be had (EADDRINUSE: another server has it).
@@ -32,10 +34,12 @@ public:
   bool run(const std::function<void()>& untilAsked);
 
 private:
-  void answer(const httplib::Request& request, httplib::Response& response) const;
+  void answer(const httplib::Request& request, httplib::Response& response);
+  void subscribe(const httplib::Request& request, httplib::Response& response);
   void log(const httplib::Request& request, const httplib::Response& response);
 
   const std::filesystem::path folder_;
+  const Newsletter newsletter_;
   const Log log_;
   std::mutex logging_;
   VerbatimServer server_;

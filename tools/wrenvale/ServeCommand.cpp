@@ -11,8 +11,15 @@
 
 #include "tools/wrenvale/Commands.h"
 #include "tools/wrenvale/DevelopmentServer.h"
+#include "tools/wrenvale/Inbox.h"
 #include "tools/wrenvale/ListenAddress.h"
+#include "tools/wrenvale/SiteFiles.h"
 #include "tools/wrenvale/Termination.h"
+
+extern "C" {
+extern const unsigned char wrenvale_development_private_key[];
+extern const unsigned long wrenvale_development_private_key_size;
+}
 
 namespace wrenvale::kit {
 
@@ -21,24 +28,32 @@ namespace {
 constexpr const char* kVendorBase = WRENVALE_VENDOR_BASE;
 
 constexpr const char* kHelp =
-    "Usage: wrenvale serve FOLDER [--port N] [--host ADDR]\n"
+    "Usage: wrenvale serve FOLDER [--port N] [--host ADDR] [--key FILE]\n"
+    "                      [--inbox FILE]\n"
     "Serve FOLDER as the maker's web server, for development, and print one line for\n"
     "each request as soon as it is answered: time, status, method, path with query,\n"
     "user agent. Ends at SIGINT (Control-C) or SIGTERM.\n\n"
-    "  --port N     listen on this port; 0 takes any that is free\n"
-    "  --host ADDR  listen on this address\n"
-    "  --help       show this text\n\n"
+    "  --port N      listen on this port; 0 takes any that is free\n"
+    "  --host ADDR   listen on this address\n"
+    "  --key FILE    the private key (PEM) for newsletter subscriptions; without it the\n"
+    "                development key, which everybody knows\n"
+    "  --inbox FILE  where subscriptions are kept; without it wrenvale/inbox.sqlite in\n"
+    "                the user's data folder\n"
+    "  --help        show this text\n\n"
     "A path that ends with \"/\" gives the index.html there; folders are not listed, and\n"
     "names that begin with \".\" are not served. An address below /app_redirect/ gives a\n"
-    "page that says where a real server would redirect to.\n\n"
+    "page that says where a real server would redirect to. Subscriptions are listed by\n"
+    "'wrenvale inbox'.\n\n"
     "The status is 0 when it was asked to end, 1 when it could not serve (the port is\n"
-    "taken, say), 2 for arguments that it does not understand.\n\n";
+    "taken, say, or the key is none), 2 for arguments that it does not understand.\n\n";
 
 struct Arguments {
   bool help = false;
   std::string folder;
   std::optional<std::string> host;
   std::optional<int> port;
+  std::optional<std::string> key;
+  std::filesystem::path inbox = defaultInbox();
 };
 
 void printHelp() {
@@ -63,10 +78,10 @@ std::optional<Arguments> misunderstood(const std::string& text) {
 
 // Nothing, after a complaint, for arguments that make no sense.
 std::optional<Arguments> parsed(int argc, char** argv) {
-  static constexpr option kOptions[] = {{"port", required_argument, nullptr, 'p'},
-                                        {"host", required_argument, nullptr, 'a'},
-                                        {"help", no_argument, nullptr, 'h'},
-                                        {nullptr, 0, nullptr, 0}};
+  static constexpr option kOptions[] = {
+      {"port", required_argument, nullptr, 'p'}, {"host", required_argument, nullptr, 'a'},
+      {"key", required_argument, nullptr, 'k'},  {"inbox", required_argument, nullptr, 'i'},
+      {"help", no_argument, nullptr, 'h'},       {nullptr, 0, nullptr, 0}};
   Arguments arguments;
   for (int found; (found = getopt_long(argc, argv, "h", kOptions, nullptr)) != -1;) {
     switch (found) {
@@ -76,6 +91,12 @@ std::optional<Arguments> parsed(int argc, char** argv) {
       break;
     case 'a':
       arguments.host = optarg;
+      break;
+    case 'k':
+      arguments.key = optarg;
+      break;
+    case 'i':
+      arguments.inbox = optarg;
       break;
     case 'h':
       arguments.help = true;
@@ -113,12 +134,23 @@ std::string whyNotBound(const ListenAddress& address, int error) {
          (error ? std::strerror(error) : "no such address");
 }
 
-int serveFolder(const std::string& folder, ListenAddress address) {
+std::optional<PrivateKey> keyFor(const Arguments& arguments) {
+  if (!arguments.key)
+    return PrivateKey::fromPEM({reinterpret_cast<const char*>(wrenvale_development_private_key),
+                                wrenvale_development_private_key_size});
+  const auto pem = contentsOf(*arguments.key);
+  return pem ? PrivateKey::fromPEM(*pem) : std::nullopt;
+}
+
+int serveFolder(const Arguments& arguments, ListenAddress address) {
+  const auto& folder = arguments.folder;
   std::error_code error;
   if (!std::filesystem::is_directory(folder, error))
     return complain("there is no folder " + folder, kFailed);
+  const auto key = keyFor(arguments);
+  if (!key) return complain("there is no private RSA key in " + *arguments.key, kFailed);
   holdTermination();
-  DevelopmentServer server(folder, printAtOnce);
+  DevelopmentServer server(folder, Newsletter(*key, Inbox(arguments.inbox)), printAtOnce);
   const int port = server.bind(address);
   if (port < 0) return complain(whyNotBound(address, errno), kFailed);
   address.port = port;
@@ -140,7 +172,7 @@ int serve(int argc, char** argv) {
     return complain(std::string("hosts of this build ask ") + kVendorBase +
                         ", which is not on this machine; say --port",
                     kUsage);
-  return serveFolder(arguments->folder, *address);
+  return serveFolder(*arguments, *address);
 }
 
 } // namespace wrenvale::kit

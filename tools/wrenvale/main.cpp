@@ -12,6 +12,7 @@ namespace {
 using namespace wrenvale::kit;
 
 constexpr Command kCommands[] = {
+    {"inbox", "list who subscribed to the newsletter", inbox},
     {"preview", "show what a host would recommend, and why", preview},
     {"serve", "serve a folder as the maker's web server, for development", serve},
 };
