@@ -1,6 +1,7 @@
 #include "core/Identity.h"
 
 #include "platform/Locale.h"
+#include "platform/MainBundle.h"
 
 namespace wrenvale {
 
@@ -16,6 +17,12 @@ std::string languageOrFallback(const platform::Locale& locale) {
 }
 
 } // namespace
+
+std::optional<std::string> localizedName(const platform::MainBundle& bundle,
+                                         const platform::Localization& localization) {
+  auto name = localization.localizedInfoString(info::kName);
+  return name ? name : stringValue(bundle.objectForInfoDictionaryKey(info::kName));
+}
 
 std::optional<std::string> appstoreIDFromInfo(const Value& value) {
   if (value.string()) return *value.string();

@@ -13,7 +13,9 @@ namespace wrenvale {
 
 namespace platform {
 class Locale;
-}
+class Localization;
+class MainBundle;
+} // namespace platform
 
 namespace info {
 inline constexpr std::string_view kIdentifier = "CFBundleIdentifier";
@@ -21,6 +23,10 @@ inline constexpr std::string_view kVersion = "CFBundleVersion";
 inline constexpr std::string_view kName = "CFBundleName";
 inline constexpr std::string_view kAppstoreID = "Appstore ID";
 } // namespace info
+
+/// "CFBundleName" as the host translates it, else as it stands; nothing when it is no text.
+std::optional<std::string> localizedName(const platform::MainBundle& bundle,
+                                         const platform::Localization& localization);
 
 /// A store identifier as text: a number's decimal digits, a string as it stands.
 std::optional<std::string> appstoreIDFromInfo(const Value& value);

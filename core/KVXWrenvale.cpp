@@ -52,9 +52,7 @@ std::string KVXWrenvale::versionString() const {
 const std::string& KVXWrenvale::appName() const {
   guarded([&] {
     std::call_once(_appNameOnce, [&] {
-      auto name = _platform.localization.localizedInfoString(info::kName);
-      if (!name) name = stringValue(_platform.mainBundle.objectForInfoDictionaryKey(info::kName));
-      _appName = name.value_or("");
+      _appName = localizedName(_platform.mainBundle, _platform.localization).value_or("");
     });
   });
   return _appName;

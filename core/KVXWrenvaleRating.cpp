@@ -1,11 +1,9 @@
-// The service's rating prompts: the triggers, the rate window's sessions, the alert, and the pages
-// that they lead to.
+// The service's rating prompts: the triggers, the rate window's sessions and the alert.
 
 #include <wrenvale/KVXWrenvale.h>
 
 #include <utility>
 
-#include "core/Endpoints.h"
 #include "core/Guard.h"
 #include "core/Identity.h"
 #include "core/PersistedKeys.h"
@@ -147,14 +145,6 @@ bool KVXWrenvale::loadRateWindow(HostWindow* window, CompletitionHandler complet
 
 void KVXWrenvale::fileSession(const KVXRateWindowController& controller) {
   _storeRateHistory(controller.rateHistory(), controller.date(), controller.triggered());
-}
-
-void KVXWrenvale::openAppstoreForApp() {
-  guarded([&] { _platform.workspace.openURL(_endpoints->storePage(_macAppstoreID)); });
-}
-
-void KVXWrenvale::openSupportWebPage() {
-  guarded([&] { _platform.workspace.openURL(_endpoints->support(_localeSuffix, bundleID())); });
 }
 
 } // namespace wrenvale

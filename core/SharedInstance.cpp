@@ -2,6 +2,7 @@
 // only, not of the logic: this is the one place where the built-in platform comes in.
 
 #include <wrenvale/KVXWrenvale.h>
+#include <wrenvale/KVXWrenvaleController.h>
 #include <wrenvale/UserDefaults.h>
 
 #include "core/BuildConfiguration.h"
@@ -20,6 +21,10 @@ UserDefaults& UserDefaults::standardUserDefaults() {
   static auto& defaults = *new UserDefaults(platform::builtInPlatform().userDefaults);
   return defaults;
 }
+
+KVXWrenvaleController::KVXWrenvaleController()
+    : KVXWrenvaleController(KVXWrenvale::sharedInstance(), platform::builtInPlatform(),
+                            builtInConfiguration().vendorSiteName) {}
 
 void KVXWrenvale::load() {
   auto& instance = sharedInstance();

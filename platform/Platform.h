@@ -12,6 +12,7 @@
 #include "platform/Kernel.h"
 #include "platform/Locale.h"
 #include "platform/MainBundle.h"
+#include "platform/Menus.h"
 #include "platform/Queue.h"
 #include "platform/Random.h"
 #include "platform/RateWindow.h"
@@ -47,6 +48,7 @@ struct Platform : SystemParts {
   RateWindows& rateWindows;
   Alerts& alerts;
   RecommenderWindows& recommenderWindows;
+  Menus& menus;
 };
 
 /// The parts that this system offers without a toolkit; made on the first call.

@@ -51,8 +51,7 @@ bool KVXRateWindowController::loadWindow() {
 }
 
 std::optional<std::string> KVXRateWindowController::hostName() const {
-  auto name = _platform.localization.localizedInfoString(info::kName);
-  return name ? name : stringValue(_platform.mainBundle.objectForInfoDictionaryKey(info::kName));
+  return localizedName(_platform.mainBundle, _platform.localization);
 }
 
 void KVXRateWindowController::setCompletitionHandler(CompletitionHandler completitionHandler) {

@@ -154,6 +154,14 @@ public:
   void openAppstoreForApp();
   /// The maker's support page for the host.
   void openSupportWebPage();
+  /// The maker's support page.
+  void openGeneralSupport();
+  /// The maker's other applications.
+  void moreApps();
+  /// The maker's social feed.
+  void followOnTwitter();
+  /// The maker's web site.
+  void openKVXWebPage();
 
   // Two switches for the host's own use; the framework reads neither. Any thread.
 

@@ -8,6 +8,7 @@
 #include "platform/Platform.h"
 #include "platform/fake/FakeAlerts.h"
 #include "platform/fake/FakeDesktop.h"
+#include "platform/fake/FakeMenus.h"
 #include "platform/fake/FakeQueues.h"
 #include "platform/fake/FakeRateWindow.h"
 #include "platform/fake/FakeRecommenderWindow.h"
@@ -35,6 +36,7 @@ struct FakePlatform {
   FakeRateWindows rateWindows;
   FakeAlerts alerts;
   FakeRecommenderWindows recommenderWindows;
+  FakeMenus menus;
 
   const Platform platform{{mainBundle, userDefaults, locale, kernel, urlLoading, encryption, json,
                            installedApplications, fileManager, clock, random},
@@ -44,7 +46,8 @@ struct FakePlatform {
                           queues,
                           rateWindows,
                           alerts,
-                          recommenderWindows};
+                          recommenderWindows,
+                          menus};
 };
 
 } // namespace wrenvale::platform

@@ -7,6 +7,7 @@
 #include "platform/qt/QtAlerts.h"
 #include "platform/qt/QtApplication.h"
 #include "platform/qt/QtDesktop.h"
+#include "platform/qt/QtMenus.h"
 #include "platform/qt/QtQueues.h"
 #include "platform/qt/QtRateWindows.h"
 
@@ -25,7 +26,8 @@ const Platform& makePlatform() {
                        queues,
                        *new QtRateWindows,
                        *new QtAlerts,
-                       *new NoRecommenderWindows};
+                       *new NoRecommenderWindows,
+                       *new QtMenus};
 }
 
 } // namespace

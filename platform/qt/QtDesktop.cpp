@@ -1,45 +1,44 @@
 #include "platform/qt/QtDesktop.h"
 
-#include <QCoreApplication>
 #include <QDesktopServices>
 #include <QGuiApplication>
 #include <QUrl>
+
+#include "platform/qt/Toolkit.h"
 
 namespace wrenvale::platform {
 
 namespace {
 
-// The translation, or the key itself.
-std::string translated(std::string_view context, std::string_view key) {
-  const std::string contextText(context);
-  const std::string keyText(key);
-  return QCoreApplication::translate(contextText.c_str(), keyText.c_str()).toStdString();
+std::string translation(std::string_view context, std::string_view key) {
+  return translated(std::string(context).c_str(), std::string(key).c_str()).toStdString();
 }
 
-bool mayOpen(const QString& scheme) {
-  for (const char* allowed : {"http", "https", "mailto", "macappstore"})
-    if (scheme == QLatin1String(allowed)) return true;
+// Without a host the rest could be read as an address of another kind.
+bool mayOpen(const QUrl& address) {
+  if (!address.isValid()) return false;
+  if (address.scheme() == QLatin1String("mailto")) return true;
+  for (const char* scheme : {"http", "https", "macappstore"})
+    if (address.scheme() == QLatin1String(scheme)) return !address.host().isEmpty();
   return false;
 }
 
 } // namespace
 
 std::optional<std::string> QtLocalization::localizedInfoString(std::string_view key) const {
-  auto text = translated("InfoPlist", key);
+  auto text = translation("InfoPlist", key);
   return text == key ? std::nullopt : std::optional(std::move(text));
 }
 
 std::string QtLocalization::localizedStringForKey(std::string_view key,
                                                   std::string_view table) const {
-  return translated(table, key);
+  return translation(table, key);
 }
 
 bool QtWorkspace::openURL(std::string_view url) {
   if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) return false;
-  const QUrl address(QString::fromUtf8(url.data(), static_cast<qsizetype>(url.size())),
-                     QUrl::StrictMode);
-  if (!address.isValid() || !mayOpen(address.scheme())) return false;
-  return QDesktopServices::openUrl(address);
+  const QUrl address(fromUTF8(url), QUrl::StrictMode);
+  return mayOpen(address) && QDesktopServices::openUrl(address);
 }
 
 } // namespace wrenvale::platform

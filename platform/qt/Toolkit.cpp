@@ -18,8 +18,13 @@ int animationDuration() {
   return wanted ? kAnimationDuration : 0;
 }
 
+QString translated(const char* context, const char* text) {
+  const QString translation = QCoreApplication::translate(context, text);
+  return translation.isEmpty() ? QString::fromUtf8(text) : translation;
+}
+
 QString translated(const char* english) {
-  return QCoreApplication::translate("Wrenvale", english);
+  return translated("Wrenvale", english);
 }
 
 QString fromUTF8(std::string_view text) {

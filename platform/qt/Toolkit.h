@@ -16,6 +16,8 @@ bool hasWindows();
 /// wants none.
 int animationDuration();
 
+/// The host's translation of a text; the text itself when there is none, or an empty one.
+QString translated(const char* context, const char* text);
 /// A text of the framework's own in the host's translation: context "Wrenvale", source = English.
 QString translated(const char* english);
 /// The same, as generated layouts call it; they have no use for comments.

@@ -156,8 +156,9 @@ TEST_F(ServiceWelcome, WithoutWindowsThereIsTheAnswerOnly) {
       throw std::bad_alloc();
     }
   } throwing;
-  const platform::Platform bare{fake.platform, fake.localization, fake.application, fake.workspace,
-                                fake.queues,   fake.rateWindows,  fake.alerts,      throwing};
+  const platform::Platform bare{fake.platform,  fake.localization, fake.application,
+                                fake.workspace, fake.queues,       fake.rateWindows,
+                                fake.alerts,    throwing,          fake.menus};
   fake.recommenderWindows.hasScreen = false;
   for (const auto* platform : {&fake.platform, &bare}) {
     fake.userDefaults.setObject(true, keys::kShowUpdateWindow);

@@ -70,7 +70,8 @@ protected:
                           fake.queues,
                           fake.rateWindows,
                           fake.alerts,
-                          fake.recommenderWindows};
+                          fake.recommenderWindows,
+                          fake.menus};
 };
 
 TEST_F(Publishing, HandsTheRankedListToThePage) {

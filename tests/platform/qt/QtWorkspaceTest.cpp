@@ -1,0 +1,97 @@
+#include "platform/qt/QtDesktop.h"
+
+#include <string>
+
+#include <gtest/gtest.h>
+
+#include <QDesktopServices>
+#include <QObject>
+#include <QUrl>
+
+namespace wrenvale::platform {
+namespace {
+
+using namespace std::string_literals;
+
+const char* const kSchemes[] = {"http",    "https", "mailto", "macappstore", "file", "javascript",
+                                "data",    "smb",   "ftp",    "desktop",     "sftp", "vbscript",
+                                "x-store", "about", "trash",  "applications"};
+
+// Takes what Qt would hand to the desktop, whatever the scheme.
+class Opener : public QObject {
+  Q_OBJECT
+public:
+  Opener() {
+    for (const char* scheme : kSchemes)
+      QDesktopServices::setUrlHandler(scheme, this, "open");
+  }
+  ~Opener() override {
+    for (const char* scheme : kSchemes)
+      QDesktopServices::unsetUrlHandler(scheme);
+  }
+
+  Q_INVOKABLE void open(const QUrl& url) { opened = url.toEncoded().toStdString(); }
+
+  std::string opened;
+};
+
+TEST(QtWorkspaceTest, OpensOnlyWhatNeitherRunsNorReadsAnythingLocal) {
+  const struct {
+    std::string address;
+    std::string opened; // empty when it is refused
+  } rows[] = {
+      {"http://vendor.example", "http://vendor.example"},
+      {"https://vendor.example/a?b=c#d", "https://vendor.example/a?b=c#d"},
+      {"HTTP://Vendor.Example/A", "http://vendor.example/A"},
+      {"mailto:a@b.example", "mailto:a@b.example"},
+      {"macappstore://store.example/us/app/id42?mt=12",
+       "macappstore://store.example/us/app/id42?mt=12"},
+      {"http://vendor.example/app_redirect/support_CH_fr-CH/com.example.größe",
+       "http://vendor.example/app_redirect/support_CH_fr-CH/com.example.gr%C3%B6%C3%9Fe"},
+      {"file:///etc/passwd", ""},
+      {"FILE:///etc/passwd", ""},
+      {"FiLe:///etc/passwd", ""},
+      {"javascript:alert(1)", ""},
+      {"JavaScript:alert(1)", ""},
+      {"data:text/html,x", ""},
+      {"smb://host/share", ""},
+      {"ftp://host/file", ""},
+      {"sftp://host/file", ""},
+      {"desktop:///x", ""},
+      {"vbscript:x", ""},
+      {"applications:///x", ""},
+      {"x-store://x", ""},
+      {"about:blank", ""},
+      {" http://vendor.example", ""},
+      {"\thttp://vendor.example", ""},
+      {"\nfile:///etc/passwd", ""},
+      {"java\nscript:alert(1)", ""},
+      {"http\0://vendor.example"s, ""},
+      {"file\0://x"s, ""},
+      {"http://vendor.example/\0x"s, ""},
+      {"http://vendor.example/\nx", ""},
+      {"http://vendor.example/a b", ""},
+      {"http://vendor.example/\xFF", "http://vendor.example/%EF%BF%BD"},
+      {"http://vendor.example/support_US_en/com.example.<b>", ""},
+      {"http://", ""},
+      {"http:file:///etc/passwd", ""},
+      {"//vendor.example", ""},
+      {"vendor.example", ""},
+      {"/etc/passwd", ""},
+      {":", ""},
+      {"macappstore:", ""},
+      {"", ""},
+  };
+  Opener opener;
+  QtWorkspace workspace;
+  for (const auto& row : rows) {
+    opener.opened.clear();
+    EXPECT_EQ(workspace.openURL(row.address), !row.opened.empty()) << row.address;
+    EXPECT_EQ(opener.opened, row.opened) << row.address;
+  }
+}
+
+} // namespace
+} // namespace wrenvale::platform
+
+#include "QtWorkspaceTest.moc"
