@@ -79,7 +79,8 @@ void subscribe(int port, const std::string& address, const std::string& pem = de
       fake.queues,
       fake.rateWindows,
       fake.alerts,
-      fake.recommenderWindows};
+      fake.recommenderWindows,
+      fake.menus};
   const BuildConfiguration configuration{.vendorBase = "http://127.0.0.1:" + std::to_string(port),
                                          .storeHost = {},
                                          .publicKey = pem,
