@@ -1,10 +1,6 @@
 // Subscriptions that the framework itself encrypts and sends, taken in by the real server.
 
 #include <gmock/gmock.h>
-#include <openssl/bio.h>
-#include <openssl/evp.h>
-#include <openssl/pem.h>
-#include <openssl/rsa.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 
@@ -21,6 +17,7 @@
 #include "tests/core/ServiceFixture.h"
 #include "tests/platform/linux/TemporaryFolder.h"
 #include "tests/tools/ServeProcess.h"
+#include "tools/wrenvale/KeyPair.h"
 #include "tools/wrenvale/SiteFiles.h"
 #include "welcome/Newsletter.h"
 
@@ -32,22 +29,6 @@ using testing::HasSubstr;
 
 std::string developmentKey() {
   return kit::contentsOf(DEVELOPMENT_PUBLIC_KEY).value_or("");
-}
-
-// A key of somebody else's: the public half, and the private one in a file.
-std::string otherKey(const std::string& privateFile) {
-  EVP_PKEY* key = EVP_RSA_gen(1024);
-  BIO* file = BIO_new_file(privateFile.c_str(), "w");
-  PEM_write_bio_PrivateKey(file, key, nullptr, nullptr, 0, nullptr, nullptr);
-  BIO* text = BIO_new(BIO_s_mem());
-  PEM_write_bio_PUBKEY(text, key);
-  char* data = nullptr;
-  const auto size = BIO_get_mem_data(text, &data);
-  std::string pem(data, static_cast<std::size_t>(size));
-  BIO_free(text);
-  BIO_free(file);
-  EVP_PKEY_free(key);
-  return pem;
 }
 
 std::string base64For(const std::string& pem, const std::string& text) {
@@ -137,7 +118,7 @@ TEST(Newsletter, WhatAHostSendsIsInTheInboxOnce) {
 TEST(Newsletter, BadDataIsRefusedAndLeavesNothing) {
   const platform::TemporaryFolder folder;
   const auto inbox = folder.path("/inbox.sqlite");
-  const auto theirs = otherKey(folder.path("/other.pem"));
+  const auto theirs = kit::newKeyPair(1024).value();
   ServeProcess server({EXAMPLE_SITE, "--port", "0", "--inbox", inbox});
   httplib::Client client("127.0.0.1", server.port());
   const auto made = [](const std::string& text) { return base64For(developmentKey(), text); };
@@ -175,7 +156,7 @@ TEST(Newsletter, BadDataIsRefusedAndLeavesNothing) {
     EXPECT_THAT(server.line(), HasSubstr(" 400 GET /store/subscribe.php")) << row.name;
   }
   // A newer library answers a wrong key with random text.
-  const auto other = urlEncoded(base64For(theirs, "email=ann@brenmoor.example"));
+  const auto other = urlEncoded(base64For(theirs.publicKey, "email=ann@brenmoor.example"));
   EXPECT_EQ(client.Get("/store/subscribe.php?data=" + other)->status, 400);
   EXPECT_EQ(client.Get("/store/subscribe.php")->status, 400);
   EXPECT_EQ(client.Head("/store/subscribe.php?data=" + urlEncoded(good))->status, 404);
@@ -186,7 +167,8 @@ TEST(Newsletter, BadDataIsRefusedAndLeavesNothing) {
 TEST(Newsletter, ServersShareAnInboxAndUseTheirOwnKeys) {
   const platform::TemporaryFolder folder;
   const auto inbox = folder.path("/inbox.sqlite");
-  const auto theirs = otherKey(folder.path("/other.pem"));
+  const auto theirs = kit::newKeyPair(1024).value();
+  folder.write("/other.pem", theirs.privateKey);
   ServeProcess first({EXAMPLE_SITE, "--port", "0", "--inbox", inbox});
   ServeProcess second(
       {EXAMPLE_SITE, "--port", "0", "--inbox", inbox, "--key", folder.path("/other.pem")});
@@ -195,7 +177,7 @@ TEST(Newsletter, ServersShareAnInboxAndUseTheirOwnKeys) {
       subscribe(port, "user" + std::to_string(i) + "@brenmoor.example", pem);
   };
   std::thread one(subscribeMany, first.port(), developmentKey());
-  std::thread two(subscribeMany, second.port(), theirs);
+  std::thread two(subscribeMany, second.port(), theirs.publicKey);
   one.join();
   two.join();
   const auto list = listed(inbox, "--json").text;

@@ -20,7 +20,9 @@ struct Command {
   int (*run)(int argc, char** argv);
 };
 
+int check(int argc, char** argv);
 int inbox(int argc, char** argv);
+int keygen(int argc, char** argv);
 int preview(int argc, char** argv);
 int serve(int argc, char** argv);
 

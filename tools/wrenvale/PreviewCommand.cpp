@@ -4,9 +4,6 @@
 
 #include <charconv>
 #include <cstdio>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <optional>
 #include <random>
 #include <sstream>
@@ -17,6 +14,7 @@
 #include "tools/wrenvale/Commands.h"
 #include "tools/wrenvale/JSONText.h"
 #include "tools/wrenvale/Preview.h"
+#include "tools/wrenvale/SiteFiles.h"
 
 namespace wrenvale::kit {
 
@@ -121,12 +119,6 @@ std::optional<Arguments> parsed(int argc, char** argv) {
   if (!arguments.hasBuild) return misunderstood("--build is needed");
   arguments.document = argv[optind];
   return arguments;
-}
-
-std::optional<std::string> contentsOf(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  if (!file || std::filesystem::is_directory(path)) return std::nullopt;
-  return std::string(std::istreambuf_iterator<char>(file), {});
 }
 
 int printPreview(const Arguments& arguments) {

@@ -60,7 +60,8 @@ std::string contentType(const fs::path& file) {
 
 std::optional<std::string> contentsOf(const fs::path& file) {
   std::ifstream stream(file, std::ios::binary);
-  if (!stream) return std::nullopt;
+  std::error_code error;
+  if (!stream || fs::is_directory(file, error)) return std::nullopt;
   return std::string(std::istreambuf_iterator<char>(stream), {});
 }
 

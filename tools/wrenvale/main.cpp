@@ -12,7 +12,9 @@ namespace {
 using namespace wrenvale::kit;
 
 constexpr Command kCommands[] = {
+    {"check", "check reset and recommender documents", check},
     {"inbox", "list who subscribed to the newsletter", inbox},
+    {"keygen", "make a key pair for newsletter subscriptions", keygen},
     {"preview", "show what a host would recommend, and why", preview},
     {"serve", "serve a folder as the maker's web server, for development", serve},
 };
