@@ -32,8 +32,10 @@ add_dependencies(Wrenvale wrenvale_net)
 
 include(CMakePackageConfigHelpers)
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/Wrenvale")
+set(translations_dir "${CMAKE_INSTALL_DATADIR}/wrenvale/translations")
 configure_package_config_file(cmake/WrenvaleConfig.cmake.in
-  "${PROJECT_BINARY_DIR}/WrenvaleConfig.cmake" INSTALL_DESTINATION "${package_dir}")
+  "${PROJECT_BINARY_DIR}/WrenvaleConfig.cmake" INSTALL_DESTINATION "${package_dir}"
+  PATH_VARS translations_dir)
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/WrenvaleConfigVersion.cmake"
   COMPATIBILITY SameMajorVersion)
 install(TARGETS Wrenvale EXPORT WrenvaleTargets)

@@ -19,28 +19,30 @@ constexpr HelpMenuAction kOpenSupportWebPage = {
 constexpr HelpMenuAction kOpenKVXWebPage = {"openKVXWebPageAction:", &C::openKVXWebPageAction,
                                             &S::openKVXWebPage};
 
-// Between the first item and the last; an empty text is a separator.
+// Between the first item and the last; an empty one is a separator.
 constexpr struct {
-  std::string_view text;
-  HelpMenuAction action;
+  std::string_view english{};
+  HelpMenuAction action{};
 } kItems[] = {
-    {"", {}},
-    {"Rate on Mac App Store",
-     {"rateOnMacAppStoreAction:", &C::rateOnMacAppStoreAction, &S::rateApp}},
-    {"", {}},
-    {"Subscribe to Newsletter",
-     {"subscribeToNewsLetterAction:", &C::subscribeToNewsLetterAction, &S::subscribeToNewsletter}},
-    {"Follow on Twitter",
-     {"followOnTwitterAction:", &C::followOnTwitterAction, &S::followOnTwitter}},
-    {"More Apps by Brenmoor", {"moreAppsAction:", &C::moreAppsAction, &S::moreApps}},
-    {"", {}},
-    {"Support",
-     {"openGeneralSupportAction:", &C::openGeneralSupportAction, &S::openGeneralSupport}},
-    {"", {}},
+    {},
+    {.english = "Rate on Mac App Store",
+     .action = {"rateOnMacAppStoreAction:", &C::rateOnMacAppStoreAction, &S::rateApp}},
+    {},
+    {.english = "Subscribe to Newsletter",
+     .action = {"subscribeToNewsLetterAction:", &C::subscribeToNewsLetterAction,
+                &S::subscribeToNewsletter}},
+    {.english = "Follow on Twitter",
+     .action = {"followOnTwitterAction:", &C::followOnTwitterAction, &S::followOnTwitter}},
+    {.english = "More Apps by Brenmoor",
+     .action = {"moreAppsAction:", &C::moreAppsAction, &S::moreApps}},
+    {},
+    {.english = "Support",
+     .action = {"openGeneralSupportAction:", &C::openGeneralSupportAction, &S::openGeneralSupport}},
+    {},
 };
 
 // A translation is written as a title; the English text is shown as it is.
-struct Titles {
+struct LocalizedTitle {
   const platform::Menus& menus;
   const platform::Localization& localization;
 
@@ -61,19 +63,20 @@ bool hasHelpItem(const platform::Menu& menu) {
 std::vector<HelpMenuItem> helpMenuItems(bool alreadyHasHelp, const HelpMenuNames& names,
                                         const platform::Menus& menus,
                                         const platform::Localization& localization) {
-  const Titles title{menus, localization};
+  const LocalizedTitle localizedTitle{menus, localization};
   std::vector<HelpMenuItem> items;
   if (!alreadyHasHelp) {
     const auto appName = menus.titleForText(names.appName.value_or("(null)"));
-    items.push_back({&kOpenSupportWebPage, appName + " " + title("Help"), "?"});
+    items.push_back({&kOpenSupportWebPage, appName + " " + localizedTitle("Help"), "?"});
   }
-  for (const auto& [text, action] : kItems) {
-    if (text.empty())
+  for (const auto& [english, action] : kItems) {
+    if (english.empty())
       items.push_back({});
     else
-      items.push_back({&action, title(std::string(text)), ""});
+      items.push_back({&action, localizedTitle(std::string(english)), ""});
   }
-  items.push_back({&kOpenKVXWebPage, title("Visit " + std::string(names.vendorSiteName)), ""});
+  items.push_back(
+      {&kOpenKVXWebPage, localizedTitle("Visit " + std::string(names.vendorSiteName)), ""});
   return items;
 }
 

@@ -54,10 +54,16 @@ void MainWindow::fillViewMenu() {
 
 void MainWindow::fillHelpMenu() {
   QMenu* menu = menuBar()->addMenu(tr("&Help"));
-  QAction* help = menu->addAction(tr("Photo Tool &Help"), QKeySequence::HelpContents, this,
+  menu->setObjectName("helpMenu");
+  QAction* help = menu->addAction(tr("#app_name &Help"), QKeySequence::HelpContents, this,
                                   &MainWindow::showHelp);
   help->setObjectName("showHelp");
-  menu->addAction(tr("About #app_name"), this, &MainWindow::showAbout);
+  QAction* about = menu->addAction(tr("&About #app_name"), this, &MainWindow::showAbout);
+  about->setObjectName("showAbout");
+
+  helpMenuController_.setMainMenu(menuBar());
+  helpMenuController_.setHelpMenu(menu);
+  helpMenuController_.awakeFromNib();
 }
 
 void MainWindow::open(const QString& file) {

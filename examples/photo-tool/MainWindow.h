@@ -3,12 +3,17 @@
 #ifndef PHOTO_TOOL_MAINWINDOW_H
 #define PHOTO_TOOL_MAINWINDOW_H
 
+#include <QCoreApplication>
 #include <QMainWindow>
+
+#include <wrenvale/KVXWrenvaleController.h>
 
 class PictureView;
 class WelcomeStatus;
 
 class MainWindow : public QMainWindow {
+  Q_DECLARE_TR_FUNCTIONS(MainWindow)
+
 public:
   MainWindow();
 
@@ -29,6 +34,7 @@ private:
 
   PictureView* view_;
   WelcomeStatus* status_;
+  KVXWrenvaleController helpMenuController_;
   QAction* close_ = nullptr;
 };
 

@@ -5,6 +5,7 @@
 
 #include <functional>
 
+#include <QCoreApplication>
 #include <QMainWindow>
 #include <QMenu>
 
@@ -13,6 +14,8 @@ class QLabel;
 /// A host asks at moments of its own; here each entry is such a moment. What came of it is told at
 /// the right of the window's status bar, in the label "ratingStatus".
 class RatingMenu : public QMenu {
+  Q_DECLARE_TR_FUNCTIONS(RatingMenu)
+
 public:
   /// Belongs to the window, and asks over it.
   explicit RatingMenu(QMainWindow& window);

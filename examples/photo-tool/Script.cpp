@@ -10,6 +10,7 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QTimer>
 
@@ -79,11 +80,24 @@ Deed answer(const QString& label) {
   return {};
 }
 
+void save(const QString& file) {
+  if (screen::picture().save(file, "PNG")) return;
+  std::fprintf(stderr, "photo-tool: cannot save %s\n", qUtf8Printable(file));
+  QCoreApplication::exit(1);
+}
+
 Deed savePicture(const QString& file) {
-  return [file] {
-    if (screen::picture().save(file, "PNG")) return;
-    std::fprintf(stderr, "photo-tool: cannot save %s\n", qUtf8Printable(file));
-    QCoreApplication::exit(1);
+  return [file] { save(file); };
+}
+
+Deed saveHelpMenuPicture(const QString& file) {
+  auto* window = visibleWindow<QMainWindow>();
+  auto* menu = window ? window->findChild<QMenu*>("helpMenu") : nullptr;
+  if (!menu || !screen::isWithinReach(*window)) return {};
+  return [file, window, menu] {
+    window->menuBar()->setActiveAction(menu->menuAction());
+    save(file);
+    menu->close();
   };
 }
 
@@ -99,7 +113,7 @@ Deed quit(const QString&) {
 }
 
 struct Step {
-  const char* name; ///< one that ends in "=" is followed by what it is about
+  const char* name; ///< what stands after "=" is the step's own: a file, say
   Way way;
   const char* named;
 };
@@ -119,15 +133,20 @@ constexpr Step kSteps[] = {
     {"close", closeWindow, "closeButton"},
     {"alert-yes", answer, "Rate Photo Tool on Appstore"},
     {"alert-no", answer, "No thanks"},
-    {"picture=", savePicture, nullptr},
+    {"help-menu=ITEM", choose, nullptr},
+    {"picture=FILE", savePicture, nullptr},
+    {"picture-menu=FILE", saveHelpMenuPicture, nullptr},
     {"status", printStatus, "ratingStatus"},
     {"quit", quit, nullptr},
 };
 
 const Step* stepNamed(const QString& text) {
-  const QString name = text.left(text.indexOf('=') + 1);
+  const auto isSame = [&](const QString& name) {
+    const auto equals = name.indexOf('=') + 1;
+    return equals > 0 ? text.startsWith(name.left(equals)) : text == name;
+  };
   for (const auto& step : kSteps)
-    if ((name.isEmpty() ? text : name) == step.name) return &step;
+    if (isSame(step.name)) return &step;
   return nullptr;
 }
 
@@ -169,7 +188,7 @@ QString Script::unknownAmong(const QStringList& steps) {
 QString Script::help() {
   QStringList names;
   for (const auto& step : kSteps)
-    names += QString(step.name).replace("=", "=FILE");
+    names += step.name;
   return names.join(", ");
 }
 

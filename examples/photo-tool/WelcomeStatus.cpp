@@ -1,6 +1,5 @@
 #include "WelcomeStatus.h"
 
-#include <QCoreApplication>
 #include <QPointer>
 
 #include <wrenvale/KVXWrenvale.h>
@@ -30,8 +29,7 @@ WelcomeStatus::~WelcomeStatus() {
 
 void WelcomeStatus::setDue(bool due) {
   const auto& wrenvale = KVXWrenvale::sharedInstance();
-  setText(QString("%1, build %2  \u00b7  Welcome window: %3")
-              .arg(QString::fromStdString(wrenvale.appName()))
-              .arg(wrenvale.bundleVersion())
-              .arg(due ? "due" : "not due"));
+  const QString text = due ? tr("%1, build %2  \u00b7  Welcome window: due")
+                           : tr("%1, build %2  \u00b7  Welcome window: not due");
+  setText(text.arg(QString::fromStdString(wrenvale.appName())).arg(wrenvale.bundleVersion()));
 }

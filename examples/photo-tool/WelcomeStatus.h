@@ -3,6 +3,7 @@
 #ifndef PHOTO_TOOL_WELCOMESTATUS_H
 #define PHOTO_TOOL_WELCOMESTATUS_H
 
+#include <QCoreApplication>
 #include <QLabel>
 
 #include <wrenvale/UserDefaults.h>
@@ -10,6 +11,8 @@
 /// Name, build, and whether the welcome window is due; follows the maker's server when it asks for
 /// the window later in the run.
 class WelcomeStatus : public QLabel {
+  Q_DECLARE_TR_FUNCTIONS(WelcomeStatus)
+
 public:
   explicit WelcomeStatus(QWidget* parent = nullptr);
   ~WelcomeStatus() override;

@@ -12,6 +12,7 @@
 #include "Options.h"
 #include "SamplePicture.h"
 #include "Script.h"
+#include "Translations.h"
 
 namespace {
 
@@ -30,6 +31,7 @@ void quitAsAsked(QApplication& application, MainWindow& window, const Options& o
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
+  useTranslations(application);
   const auto options = Options::ofApplication(application);
 
   QApplication::setWindowIcon(applicationIcon());
