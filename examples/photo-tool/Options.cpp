@@ -6,6 +6,7 @@
 #include <QCommandLineParser>
 
 #include "Script.h"
+#include "Steps.h"
 
 namespace {
 
@@ -34,7 +35,7 @@ Options Options::ofApplication(const QCoreApplication& application) {
       "FILE");
   const QCommandLineOption script(
       "do",
-      "Do the <STEPS>, with commas between them, as a user would: " + Script::help() +
+      "Do the <STEPS>, with commas between them, as a user would: " + stepNames().join(", ") +
           ". Each waits until it can be done; steps with \"+\" between them are done at once.",
       "STEPS");
   QCommandLineParser parser;

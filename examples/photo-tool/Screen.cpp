@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QMainWindow>
 #include <QMouseEvent>
 #include <QPainter>
@@ -27,6 +28,13 @@ void send(const Spot& spot, QEvent::Type type, QPointF position,
   QMouseEvent event(type, position, position, spot.window->mapToGlobal(position), button, held,
                     Qt::NoModifier);
   QCoreApplication::sendEvent(spot.window, &event);
+}
+
+void strike(QWidget& widget, int key, Qt::KeyboardModifiers modifiers, const QString& text) {
+  for (const auto type : {QEvent::KeyPress, QEvent::KeyRelease}) {
+    QKeyEvent event(type, key, modifiers, text);
+    QCoreApplication::sendEvent(&widget, &event);
+  }
 }
 
 } // namespace
@@ -64,6 +72,16 @@ void click(const Spot& spot) {
   hover(spot);
   send(spot, QEvent::MouseButtonPress, spot.position, Qt::LeftButton, Qt::LeftButton);
   send(spot, QEvent::MouseButtonRelease, spot.position, Qt::LeftButton);
+}
+
+void press(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers) {
+  strike(widget, key, modifiers,
+         key == Qt::Key_Return ? QString("\r") : QString(QChar(key)).toLower());
+}
+
+void type(QWidget& widget, const QString& text) {
+  for (const QChar character : text)
+    strike(widget, character.toUpper().unicode(), Qt::NoModifier, character);
 }
 
 } // namespace screen

@@ -1,4 +1,4 @@
-// What a user of Photo Tool sees and where the mouse can go.
+// What a user of Photo Tool sees, where the mouse can go and what the keyboard does.
 
 #ifndef PHOTO_TOOL_SCREEN_H
 #define PHOTO_TOOL_SCREEN_H
@@ -29,6 +29,10 @@ Spot spotOf(const QWidget& widget);
 /// Moves the mouse there, from elsewhere in the window.
 void hover(const Spot& spot);
 void click(const Spot& spot);
+
+/// Presses and lets go of a key while `widget` has the keyboard.
+void press(QWidget& widget, Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+void type(QWidget& widget, const QString& text);
 
 } // namespace screen
 

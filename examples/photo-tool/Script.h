@@ -7,10 +7,10 @@
 #include <QObject>
 #include <QStringList>
 
-/// Chooses menu entries, presses the buttons of whatever window is up, takes pictures. A step waits
-/// until nothing on the screen moves and the step can be done, so that no times need be given;
-/// modal windows do not hold it up. One that cannot be done for ten seconds ends the application
-/// with status 1 and a message. Steps with "+" between them are done at once.
+/// Does the steps of Steps.h one after the other. Each waits until nothing on the screen moves and
+/// it can be done, so that no times need be given; modal windows do not hold it up. One that cannot
+/// be done for ten seconds ends the application with status 1 and a message. Steps with "+" between
+/// them are done at once.
 class Script : public QObject {
 public:
   /// Begins once the application's event loop runs. All steps are known.
@@ -18,8 +18,6 @@ public:
 
   /// The first of the steps that is none; empty when all are known.
   static QString unknownAmong(const QStringList& steps);
-  /// The names of the steps, for a help text.
-  static QString help();
 
 private:
   void waitForTurn();
