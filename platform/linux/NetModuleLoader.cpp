@@ -1,32 +1,17 @@
 #include "platform/linux/NetModuleLoader.h"
 
-#include <filesystem>
-
-#include <dlfcn.h>
+#include "platform/Modules.h"
 
 namespace wrenvale::platform {
 
 namespace {
 
 const NetModule* loadModule(const std::string& path) {
-  // An empty name would mean the program itself.
-  if (path.empty()) return nullptr;
-  void* library = ::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
-  if (!library) return nullptr;
-  const auto entry = reinterpret_cast<NetModuleEntry>(::dlsym(library, kNetModuleEntry));
+  const auto entry = reinterpret_cast<NetModuleEntry>(moduleEntry(path, kNetModuleEntry));
   return entry ? entry() : nullptr;
 }
 
 } // namespace
-
-std::string netModulePath() {
-  Dl_info found;
-  if (::dladdr(reinterpret_cast<const void*>(&netModulePath), &found) == 0 || !found.dli_fname)
-    return {};
-  std::error_code error;
-  const auto library = std::filesystem::absolute(found.dli_fname, error);
-  return error ? std::string() : (library.parent_path() / kNetModuleFile).string();
-}
 
 const NetModule* NetModuleLoader::module() {
   std::call_once(loaded_, [this] { module_ = loadModule(path_); });

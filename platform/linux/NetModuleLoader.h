@@ -18,11 +18,6 @@
 
 namespace wrenvale::platform {
 
-/// Where the net module belongs: beside the library (or program) that holds this code, as an
-/// absolute path. Empty when the system does not tell. Call it early: the path may depend on the
-/// working directory at load time.
-std::string netModulePath();
-
 class NetModuleLoader final : public URLLoading, public Encryption, public JSONSerialization {
 public:
   /// `path` of the module; an empty one is a missing module.

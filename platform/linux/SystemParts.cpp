@@ -1,3 +1,5 @@
+#include "platform/Modules.h"
+#include "platform/NetModule.h"
 #include "platform/Platform.h"
 #include "platform/linux/DefaultsPath.h"
 #include "platform/linux/DesktopEntries.h"
@@ -26,7 +28,7 @@ struct System {
   LinuxUserDefaults userDefaults{defaultsFileOf(mainBundle)};
   EnvironmentLocale locale;
   LinuxKernel kernel;
-  NetModuleLoader net{netModulePath()};
+  NetModuleLoader net{modulePath(kNetModuleFile)};
   DesktopEntries installedApplications;
   LinuxFileManager fileManager;
   SystemClock clock;

@@ -4,6 +4,7 @@
 #include <gmock/gmock.h>
 
 #include "TemporaryFolder.h"
+#include "platform/Modules.h"
 
 namespace wrenvale::platform {
 namespace {
@@ -69,7 +70,7 @@ TEST(NetModuleLoader, CancellingFirstLoadsNothing) {
 }
 
 TEST(NetModuleLoader, ModuleBelongsBesideThisCode) {
-  const std::filesystem::path path = netModulePath();
+  const std::filesystem::path path = modulePath(kNetModuleFile);
   const auto program = std::filesystem::read_symlink("/proc/self/exe");
   EXPECT_TRUE(path.is_absolute());
   EXPECT_TRUE(std::filesystem::equivalent(path.parent_path().parent_path(), program.parent_path()))
