@@ -27,8 +27,8 @@ target_compile_features(Wrenvale PUBLIC cxx_std_20)
 target_include_directories(Wrenvale INTERFACE
   "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/include>"
   "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>")
-# The net module is loaded at run time, so nothing else makes the build tree's library complete.
-add_dependencies(Wrenvale wrenvale_net)
+# The modules are loaded at run time, so nothing else makes the build tree's library complete.
+add_dependencies(Wrenvale wrenvale_net wrenvale_webview)
 
 include(CMakePackageConfigHelpers)
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/Wrenvale")
@@ -39,7 +39,7 @@ configure_package_config_file(cmake/WrenvaleConfig.cmake.in
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/WrenvaleConfigVersion.cmake"
   COMPATIBILITY SameMajorVersion)
 install(TARGETS Wrenvale EXPORT WrenvaleTargets)
-install(TARGETS wrenvale_net LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}/wrenvale")
+install(TARGETS wrenvale_net wrenvale_webview LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}/wrenvale")
 install(DIRECTORY include/wrenvale DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
 install(EXPORT WrenvaleTargets NAMESPACE Wrenvale:: DESTINATION "${package_dir}")
 install(FILES

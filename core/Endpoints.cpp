@@ -3,6 +3,7 @@
 #include <initializer_list>
 
 #include "core/BuildConfiguration.h"
+#include "core/Origin.h"
 #include "core/Value.h"
 
 namespace wrenvale {
@@ -35,7 +36,8 @@ std::string filled(std::string_view pattern, std::initializer_list<std::string_v
 
 Endpoints::Endpoints(const BuildConfiguration& configuration)
     : vendorBase_(configuration.vendorBase)
-    , storeHost_(configuration.storeHost) {}
+    , storeHost_(configuration.storeHost)
+    , bridgeIsVendors_(configuration.bridgeIsVendors) {}
 
 std::string Endpoints::resetDocument(std::string_view localeSuffix) const {
   return vendorBase_ + filled(kReset, {localeSuffix});
@@ -81,6 +83,10 @@ std::string Endpoints::webSite() const {
 
 std::string Endpoints::storePage(const std::optional<std::string>& appstoreID) const {
   return filled(kStore, {storeHost_, formatted(appstoreID)});
+}
+
+bool Endpoints::mayReachHost(std::string_view origin) const {
+  return !bridgeIsVendors_ || haveSameOrigin(origin, vendorBase_);
 }
 
 } // namespace wrenvale

@@ -36,9 +36,14 @@ public:
   /// The application's page for the store application; always in the "us" storefront.
   std::string storePage(const std::optional<std::string>& appstoreID) const;
 
+  /// Whether a page of this origin may get the script object: any, or the maker's only, as the
+  /// framework was configured.
+  bool mayReachHost(std::string_view origin) const;
+
 private:
   std::string vendorBase_;
   std::string storeHost_;
+  bool bridgeIsVendors_;
 };
 
 } // namespace wrenvale

@@ -6,70 +6,28 @@
 #define WRENVALE_PLATFORM_RECOMMENDERWINDOW_H
 
 #include <chrono>
-#include <cstdint>
 #include <functional>
 #include <memory>
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 #include "core/Value.h"
 #include "platform/Alerts.h"
+#include "platform/WebView.h"
 
 namespace wrenvale::platform {
-
-/// Why a page wants to go somewhere.
-enum class NavigationType : std::int64_t {
-  kLinkClicked = 0,
-  kFormSubmitted = 1,
-  kBackForward = 2,
-  kReload = 3,
-  kFormResubmitted = 4,
-  kOther = 5, ///< the page's own loads, redirects, script
-};
-
-struct NavigationAction {
-  std::string url;             ///< where to
-  std::string mainDocumentURL; ///< address of the page as a whole
-  NavigationType type = NavigationType::kOther;
-};
-
-/// The answer to a navigation; `kNone` is no answer at all, which leaves the page where it is.
-enum class PolicyDecision { kUse, kIgnore, kNone };
-
-struct LoadError {
-  std::string description; ///< for the user, in the user's language where the system has it
-  std::string url;
-};
 
 /// A rectangle on the screen, in points; y grows downwards.
 struct Frame {
   double x = 0, y = 0, width = 0, height = 0;
 };
 
-/// What the page may call on a script object.
-struct ScriptMethod {
-  std::string name;  ///< as the page writes it, perhaps with a colon inside
-  int arguments = 0; ///< how many it takes; missing ones arrive as null, further ones not at all
-};
-
-/// Called on the main thread, never from within a call of the window's, but for windowWillClose().
-/// The delegate may close the window, or let go of it, from any of these.
-class RecommenderWindowDelegate {
+/// What the page reports and asks is the window's to report and ask, and it never does so from
+/// within a call of the window's, but for windowWillClose(). The delegate may close the window, or
+/// let go of it, from any of these calls.
+class RecommenderWindowDelegate : public WebViewDelegate {
 public:
-  virtual ~RecommenderWindowDelegate() = default;
-
-  /// The main frame's page is about to run its first script: the time to publish a script object.
-  virtual void didClearWindowObject() = 0;
-  /// A script called a published method. The result is what the page gets: null, a boolean, an
-  /// integer or a string; nothing makes the call a script error in the page.
-  virtual std::optional<Value> invokeScriptMethod(std::string_view name,
-                                                  const std::vector<Value>& arguments) = 0;
-  virtual PolicyDecision decidePolicyForNavigationAction(const NavigationAction& action) = 0;
-  virtual PolicyDecision decidePolicyForNewWindowAction(const NavigationAction& action) = 0;
-  /// A page could not be fetched, or its process is gone.
-  virtual void didFailProvisionalLoad(const LoadError& error, bool isMainFrame) = 0;
   /// The window is closing, for whatever reason; called once.
   virtual void windowWillClose() = 0;
 };

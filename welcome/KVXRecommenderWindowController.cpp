@@ -112,7 +112,8 @@ void KVXRecommenderWindowController::_displayAlertIfPossible() {
   });
 }
 
-void KVXRecommenderWindowController::didClearWindowObject() {
+void KVXRecommenderWindowController::didClearWindowObject(std::string_view origin) {
+  if (!_endpoints.mayReachHost(origin)) return;
   const auto self = shared_from_this();
   guarded([&] { _window->setScriptObject(welcome::kScriptObject, welcome::scriptMethods()); });
 }

@@ -90,7 +90,7 @@ public:
 
   // What the window reports.
 
-  void didClearWindowObject() override;
+  void didClearWindowObject(std::string_view origin) override;
   std::optional<Value> invokeScriptMethod(std::string_view name,
                                           const std::vector<Value>& arguments) override;
   platform::PolicyDecision

@@ -69,9 +69,9 @@ private:
 
 } // namespace
 
-void FakeRecommenderWindow::startPage() {
+void FakeRecommenderWindow::startPage(std::string_view origin) {
   scriptObjects.clear();
-  if (delegate && !webViewClosed) delegate->didClearWindowObject();
+  if (delegate && !webViewClosed) delegate->didClearWindowObject(origin);
 }
 
 std::optional<Value> FakeRecommenderWindow::call(std::string_view name,

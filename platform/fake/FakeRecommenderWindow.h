@@ -24,7 +24,7 @@ struct FakeRecommenderWindow {
   // The page.
 
   /// Begins to run its scripts, as each load in the main frame does.
-  void startPage();
+  void startPage(std::string_view origin = "http://vendor.example");
   /// A script calls Recommender[name](arguments...): nothing when that is a script error.
   std::optional<Value> call(std::string_view name, const Arguments& arguments = {});
   /// Tries to go somewhere, in this window or in a new one.

@@ -1,15 +1,17 @@
 // The platform of this library: the system parts and what Qt adds. Its objects are never destroyed,
 // since background threads may still use them while the process ends.
 
+#include "platform/Modules.h"
 #include "platform/Platform.h"
+#include "platform/WebViewModule.h"
 #include "platform/qt/LaunchEvent.h"
-#include "platform/qt/NoRecommenderWindows.h"
 #include "platform/qt/QtAlerts.h"
 #include "platform/qt/QtApplication.h"
 #include "platform/qt/QtDesktop.h"
 #include "platform/qt/QtMenus.h"
 #include "platform/qt/QtQueues.h"
 #include "platform/qt/QtRateWindows.h"
+#include "platform/qt/QtRecommenderWindows.h"
 
 namespace wrenvale::platform {
 
@@ -26,7 +28,7 @@ const Platform& makePlatform() {
                        queues,
                        *new QtRateWindows,
                        *new QtAlerts,
-                       *new NoRecommenderWindows,
+                       *new QtRecommenderWindows(modulePath(kWebViewModuleFile)),
                        *new QtMenus};
 }
 

@@ -1,0 +1,31 @@
+// The web view module, loaded when the first page is to be shown.
+
+#ifndef WRENVALE_PLATFORM_QT_WEBVIEWMODULELOADER_H
+#define WRENVALE_PLATFORM_QT_WEBVIEWMODULELOADER_H
+
+#include <string>
+
+#include "platform/WebViewModule.h"
+
+namespace wrenvale::platform {
+
+/// Main thread only.
+class WebViewModuleLoader {
+public:
+  /// `path` of the module; an empty one is a missing module.
+  explicit WebViewModuleLoader(std::string path)
+      : path_(std::move(path)) {}
+
+  /// Loads the module on the first call, for which there is a QApplication; that takes a moment.
+  /// Null without a module (not installed, damaged, of another version). It is looked for once.
+  WebViewModule* module();
+
+private:
+  const std::string path_;
+  bool wasLookedFor_ = false;
+  WebViewModule* module_ = nullptr;
+};
+
+} // namespace wrenvale::platform
+
+#endif

@@ -1,0 +1,87 @@
+#include "platform/qt/WindowFrame.h"
+
+#include <QScreen>
+
+#include "platform/qt/Toolkit.h"
+
+namespace wrenvale::platform {
+
+namespace {
+
+// Also for what is no number, which is less than nothing.
+double bounded(double value, double least, double most) {
+  if (!(value > least)) return least;
+  return value < most ? value : qMax(least, most);
+}
+
+struct Stretch {
+  int begin, length;
+};
+
+Stretch fitted(double begin, double length, int smallest, int screenBegin, int screenLength) {
+  const double centre = begin + length / 2;
+  const double fits = bounded(length, smallest, screenLength);
+  const double place = bounded(centre - fits / 2, screenBegin, screenBegin + screenLength - fits);
+  return {.begin = qRound(place), .length = qRound(fits)};
+}
+
+} // namespace
+
+QRect frameOnScreen(const Frame& wanted, QSize smallest, const QRect& screen) {
+  const auto across = fitted(wanted.x, wanted.width, smallest.width(), screen.x(), screen.width());
+  const auto down = fitted(wanted.y, wanted.height, smallest.height(), screen.y(), screen.height());
+  return {across.begin, down.begin, across.length, down.length};
+}
+
+WindowFrame::WindowFrame(QWidget& window)
+    : window_(window) {
+  animation_.setEasingCurve(QEasingCurve::InOutQuad);
+  QObject::connect(&animation_, &QVariantAnimation::valueChanged, &window,
+                   [this](const QVariant& frame) { apply(frame.toRect()); });
+}
+
+QSize WindowFrame::decoration() const {
+  return window_.frameGeometry().size() - window_.size();
+}
+
+QRect WindowFrame::target() const {
+  const bool moves = animation_.state() == QAbstractAnimation::Running;
+  return moves ? animation_.endValue().toRect() : window_.frameGeometry();
+}
+
+Frame WindowFrame::frame() const {
+  const QRect frame = target();
+  return {.x = double(frame.x()),
+          .y = double(frame.y()),
+          .width = double(frame.width()),
+          .height = double(frame.height())};
+}
+
+Frame WindowFrame::frameForContentSize(double width, double height) const {
+  const QSize around = decoration();
+  return {.x = 0, .y = 0, .width = width + around.width(), .height = height + around.height()};
+}
+
+void WindowFrame::setFrame(const Frame& frame, bool animate) {
+  const QRect end = frameOnScreen(frame, window_.minimumSize() + decoration(),
+                                  window_.screen()->availableGeometry());
+  animation_.stop();
+  if (!animate || animationDuration() == 0) return apply(end);
+  animation_.setDuration(animationDuration());
+  animation_.setStartValue(window_.frameGeometry());
+  animation_.setEndValue(end);
+  animation_.start();
+}
+
+void WindowFrame::centre() {
+  QRect frame = target();
+  frame.moveCenter(window_.screen()->availableGeometry().center());
+  apply(frame);
+}
+
+void WindowFrame::apply(const QRect& frame) {
+  window_.resize(frame.size() - decoration());
+  window_.move(frame.topLeft());
+}
+
+} // namespace wrenvale::platform

@@ -1,0 +1,46 @@
+// How a page is to behave in a window that is no browser's, and what the engine does not tell of
+// its navigations. Runs in a world of its own beside each document, where no script of the page's
+// reaches it. The host reads its remarks off the console, in front of the navigation that each is
+// about, and knows them by the secret.
+(function (secret) {
+  "use strict";
+  const remark = (what, url) => console.debug(secret + what + " " + url);
+
+  const linkOf = (event) => {
+    for (const node of event.composedPath())
+      if ((node.localName === "a" || node.localName === "area") && node.href) return node;
+    return null;
+  };
+
+  let clicked = null;
+  const onClick = (event) => {
+    const link = linkOf(event);
+    if (!link) return;
+    clicked = typeof link.href === "string" ? link.href : new URL(link.href.baseVal, document.baseURI).href;
+    setTimeout(() => { clicked = null; });
+    remark("link", clicked);
+  };
+  window.addEventListener("click", onClick, true);
+  window.addEventListener("auxclick", onClick, true);
+
+  if (window.navigation) {
+    navigation.addEventListener("navigate", (event) => {
+      const url = event.destination.url;
+      if (event.navigationType === "reload" || event.navigationType === "traverse")
+        remark(event.navigationType, url);
+      if (!event.hashChange || url !== clicked) return;
+      event.preventDefault(); // the engine would not ask
+      remark("fragment", url);
+    });
+  }
+
+  // What is typed may be selected, nothing else.
+  const isTyped = (node) =>
+    node.localName === "input" || node.localName === "textarea" || node.isContentEditable;
+  const refuse = (event) => { event.preventDefault(); event.stopImmediatePropagation(); };
+  window.addEventListener("selectstart", (event) => {
+    if (!isTyped(event.composedPath()[0])) refuse(event);
+  }, true);
+  for (const kind of ["dragstart", "dragenter", "dragover", "drop"])
+    window.addEventListener(kind, refuse, true);
+})

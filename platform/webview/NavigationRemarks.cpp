@@ -1,0 +1,65 @@
+#include "platform/webview/NavigationRemarks.h"
+
+extern "C" {
+extern const unsigned char wrenvale_manners[];
+extern const unsigned long wrenvale_manners_size;
+}
+
+namespace wrenvale::platform {
+
+namespace {
+
+// A remark that no navigation followed, such as of a link whose click the page handled itself, is
+// not about one that comes later.
+constexpr qint64 kLifetime = 1000; // milliseconds
+
+NavigationType typeNamed(QStringView word) {
+  if (word == QLatin1String("reload")) return NavigationType::kReload;
+  if (word == QLatin1String("traverse")) return NavigationType::kBackForward;
+  return NavigationType::kLinkClicked;
+}
+
+} // namespace
+
+QString NavigationRemarks::source() const {
+  return QString::fromUtf8(reinterpret_cast<const char*>(wrenvale_manners),
+                           static_cast<qsizetype>(wrenvale_manners_size))
+             .trimmed() +
+         "(\"" + secret_ + "\");";
+}
+
+std::optional<QUrl> NavigationRemarks::note(const QString& consoleMessage) {
+  if (!consoleMessage.startsWith(secret_)) return std::nullopt;
+  const auto remark = QStringView(consoleMessage).mid(secret_.size());
+  const auto space = remark.indexOf(' ');
+  const auto word = remark.left(space);
+  const QUrl url = QUrl::fromEncoded(remark.mid(space + 1).toUtf8());
+  if (word == QLatin1String("fragment")) return url;
+  type_ = typeNamed(word);
+  url_ = url;
+  age_.start();
+  return std::nullopt;
+}
+
+bool NavigationRemarks::isAbout(const QUrl& url) const {
+  return age_.isValid() && !age_.hasExpired(kLifetime) && url_ == url;
+}
+
+bool NavigationRemarks::isClickedLink(const QUrl& url) {
+  return isAbout(url) && type_ == NavigationType::kLinkClicked;
+}
+
+NavigationType NavigationRemarks::typeOf(const QUrl& url, QWebEnginePage::NavigationType engines) {
+  switch (engines) {
+  case QWebEnginePage::NavigationTypeFormSubmitted:
+    return NavigationType::kFormSubmitted;
+  case QWebEnginePage::NavigationTypeBackForward:
+    return NavigationType::kBackForward;
+  case QWebEnginePage::NavigationTypeReload:
+    return NavigationType::kReload;
+  default:
+    return isAbout(url) ? type_ : NavigationType::kOther;
+  }
+}
+
+} // namespace wrenvale::platform

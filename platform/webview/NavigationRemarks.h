@@ -1,0 +1,45 @@
+// Why a page goes somewhere: what the engine says of a navigation, and what Manners.js remarks just
+// before it. The engine alone does not tell a clicked link from a script that sets the address, nor
+// a reload from a redirect.
+
+#ifndef WRENVALE_PLATFORM_WEBVIEW_NAVIGATIONREMARKS_H
+#define WRENVALE_PLATFORM_WEBVIEW_NAVIGATIONREMARKS_H
+
+#include <optional>
+
+#include <QElapsedTimer>
+#include <QString>
+#include <QUrl>
+#include <QWebEnginePage>
+
+#include "platform/WebView.h"
+#include "platform/webview/Secret.h"
+
+namespace wrenvale::platform {
+
+class NavigationRemarks {
+public:
+  /// What makes the remarks, to be run beside each document.
+  QString source() const;
+
+  /// Takes note when the message is a remark. Answers the address of a clicked link that leads to
+  /// another place in its page, for which the engine asks nobody.
+  std::optional<QUrl> note(const QString& consoleMessage);
+
+  /// The type of a navigation that begins.
+  NavigationType typeOf(const QUrl& url, QWebEnginePage::NavigationType engines);
+  /// Whether a link to this address has just been clicked.
+  bool isClickedLink(const QUrl& url);
+
+private:
+  bool isAbout(const QUrl& url) const;
+
+  const QString secret_ = makeSecret();
+  NavigationType type_ = NavigationType::kOther;
+  QUrl url_;
+  QElapsedTimer age_;
+};
+
+} // namespace wrenvale::platform
+
+#endif

@@ -1,0 +1,232 @@
+#include "platform/webview/Page.h"
+
+#include <utility>
+
+#include <QColor>
+#include <QCoreApplication>
+#include <QWebEngineFileSystemAccessRequest>
+#include <QWebEngineFullScreenRequest>
+#include <QWebEngineQuotaRequest>
+#include <QWebEngineRegisterProtocolHandlerRequest>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
+#include <QWebEngineSettings>
+
+namespace wrenvale::platform {
+
+namespace {
+
+std::string text(const QUrl& url) {
+  return url.toEncoded().toStdString();
+}
+
+// What a page of the web may go to; everything else is of this machine or of other programs.
+bool isOfTheWeb(const QUrl& url) {
+  for (const char* scheme : {"http", "https", "about", "data", "blob", "javascript"})
+    if (url.scheme() == QLatin1String(scheme)) return true;
+  return false;
+}
+
+QWebEngineScript script(const QString& name, const QString& source, quint32 world, bool inFrames) {
+  QWebEngineScript script;
+  script.setName(name);
+  script.setSourceCode(source);
+  script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+  script.setWorldId(world);
+  script.setRunsOnSubFrames(inFrames);
+  return script;
+}
+
+} // namespace
+
+// While one is there, the page is in the middle of something.
+class Page::Call {
+public:
+  explicit Call(Page& page)
+      : page_(page) {
+    ++page_.calls_;
+  }
+  ~Call() {
+    if (--page_.calls_ == 0 && !page_.delegate_) page_.deleteLater();
+  }
+  Call(const Call&) = delete;
+  Call& operator=(const Call&) = delete;
+
+private:
+  Page& page_;
+};
+
+Page::Page(QWebEngineProfile& profile, WebViewDelegate& delegate)
+    : QWebEnginePage(&profile)
+    , delegate_(&delegate) {
+  settle();
+  refuseRequests();
+  insertScripts();
+  timeout_.setSingleShot(true);
+  connect(&timeout_, &QTimer::timeout, this, [this] {
+    fail(requestedUrl(), QT_TRANSLATE_NOOP("Wrenvale", "The server does not answer."));
+    triggerAction(Stop);
+  });
+  connect(this, &QWebEnginePage::loadingChanged, this, &Page::onLoading);
+  connect(this, &QWebEnginePage::newWindowRequested, this, &Page::onNewWindow);
+  connect(this, &QWebEnginePage::renderProcessTerminated, this, [this] {
+    scriptObject_.clear();
+    fail(url(), QT_TRANSLATE_NOOP("Wrenvale", "The page has ended unexpectedly."));
+  });
+}
+
+void Page::retire() {
+  if (!std::exchange(delegate_, nullptr)) return;
+  timeout_.stop();
+  scriptObject_.clear();
+  setAudioMuted(true);
+  if (calls_ == 0) deleteLater();
+}
+
+// Most of it is the engine's default, which a later engine may change.
+void Page::settle() {
+  using Settings = QWebEngineSettings;
+  for (const auto attribute :
+       {Settings::ErrorPageEnabled, Settings::PluginsEnabled, Settings::PdfViewerEnabled,
+        Settings::FullScreenSupportEnabled, Settings::ScreenCaptureEnabled,
+        Settings::JavascriptCanAccessClipboard, Settings::JavascriptCanPaste,
+        Settings::LocalContentCanAccessRemoteUrls, Settings::LocalContentCanAccessFileUrls,
+        Settings::AllowRunningInsecureContent, Settings::AllowGeolocationOnInsecureOrigins,
+        Settings::AllowWindowActivationFromJavaScript, Settings::FocusOnNavigationEnabled,
+        Settings::HyperlinkAuditingEnabled, Settings::DnsPrefetchEnabled,
+        Settings::NavigateOnDropEnabled, Settings::WebGLEnabled, Settings::TouchIconsEnabled,
+        Settings::AutoLoadIconsForPage})
+    settings()->setAttribute(attribute, false);
+  settings()->setAttribute(Settings::PlaybackRequiresUserGesture, true);
+  settings()->setAttribute(Settings::WebRTCPublicInterfacesOnly, true);
+  settings()->setUnknownUrlSchemePolicy(Settings::DisallowUnknownUrlSchemes);
+  setBackgroundColor(QColor(Qt::white));
+}
+
+void Page::refuseRequests() {
+  connect(this, &QWebEnginePage::featurePermissionRequested, this,
+          [this](const QUrl& origin, Feature feature) {
+            setFeaturePermission(origin, feature, PermissionDeniedByUser);
+          });
+  connect(this, &QWebEnginePage::fullScreenRequested, this,
+          [](QWebEngineFullScreenRequest request) { request.reject(); });
+  connect(this, &QWebEnginePage::quotaRequested, this,
+          [](QWebEngineQuotaRequest request) { request.reject(); });
+  connect(this, &QWebEnginePage::registerProtocolHandlerRequested, this,
+          [](QWebEngineRegisterProtocolHandlerRequest request) { request.reject(); });
+  connect(this, &QWebEnginePage::fileSystemAccessRequested, this,
+          [](QWebEngineFileSystemAccessRequest request) { request.reject(); });
+}
+
+void Page::insertScripts() {
+  scripts().insert(
+      script("script object", scriptObject_.source(), QWebEngineScript::MainWorld, false));
+  scripts().insert(script("manners", remarks_.source(), QWebEngineScript::ApplicationWorld, true));
+}
+
+void Page::start(const QUrl& url, std::chrono::milliseconds timeout) {
+  timeout_.start(timeout);
+  load(url);
+}
+
+bool Page::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) {
+  if (!delegate_ || !isOfTheWeb(url)) return false;
+  return decide(url, remarks_.typeOf(url, type), isMainFrame) == PolicyDecision::kUse;
+}
+
+PolicyDecision Page::decide(const QUrl& url, platform::NavigationType type, bool isMainFrame) {
+  const Call call(*this);
+  return delegate_->decidePolicyForNavigationAction(
+      {.url = text(url), .mainDocumentURL = text(isMainFrame ? url : this->url()), .type = type});
+}
+
+bool Page::javaScriptPrompt(const QUrl& origin, const QString& message, const QString&,
+                            QString* result) {
+  if (!delegate_) return false;
+  const Call call(*this);
+  return scriptObject_.isGreeting(message) ? greet(origin, *result) : perform(message, *result);
+}
+
+bool Page::greet(const QUrl& origin, QString& result) {
+  timeout_.stop();
+  hasDocument_ = hadDocument_ = true;
+  scriptObject_.clear();
+  delegate_->didClearWindowObject(text(origin));
+  if (!scriptObject_.isPublished()) return false;
+  result = scriptObject_.introduction();
+  return true;
+}
+
+bool Page::perform(const QString& message, QString& result) {
+  if (!scriptObject_.isCall(message)) return false;
+  const auto call = scriptObject_.call(message);
+  if (!call) {
+    result.clear();
+    return scriptObject_.isUnfinished();
+  }
+  const auto answer = delegate_->invokeScriptMethod(call->name, call->arguments);
+  if (answer) result = ScriptObject::encoded(*answer);
+  return answer.has_value();
+}
+
+// What pages say on the console is of no interest to the host.
+void Page::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString& message, int,
+                                    const QString&) {
+  const auto fragment = remarks_.note(message);
+  if (fragment && delegate_) decide(*fragment, platform::NavigationType::kLinkClicked, true);
+}
+
+void Page::onLoading(const QWebEngineLoadingInfo& info) {
+  if (!delegate_) return;
+  if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus) {
+    hasDocument_ = hasFailed_ = false;
+    onLeaving(info.url());
+  } else {
+    onEnd(info);
+  }
+}
+
+// A page has arrived when it has begun: what cuts it off later is no failure, and neither is one
+// that tells of an error. A load that something else took the place of is one only when there is
+// nothing to see: a download, say.
+void Page::onEnd(const QWebEngineLoadingInfo& info) {
+  using Info = QWebEngineLoadingInfo;
+  const bool arrived = hasDocument_ || info.status() == Info::LoadSucceededStatus ||
+                       info.errorDomain() == Info::HttpStatusCodeDomain;
+  if (arrived) {
+    timeout_.stop();
+    hadDocument_ = true;
+  } else if (info.status() == Info::LoadFailedStatus || !hadDocument_) {
+    fail(info.url(), QT_TRANSLATE_NOOP("Wrenvale", "The server cannot be reached."));
+  }
+}
+
+// The engine asks nobody about addresses that are for other programs.
+void Page::onLeaving(const QUrl& url) {
+  if (!isOfTheWeb(url) && remarks_.isClickedLink(url))
+    decide(url, platform::NavigationType::kLinkClicked, true);
+}
+
+// No window ever comes of it, whatever the answer.
+void Page::onNewWindow(const QWebEngineNewWindowRequest& request) {
+  if (!delegate_) return;
+  const Call call(*this);
+  const bool isUsers = request.isUserInitiated() || remarks_.isClickedLink(request.requestedUrl());
+  delegate_->decidePolicyForNewWindowAction({.url = text(request.requestedUrl()),
+                                             .mainDocumentURL = text(request.requestedUrl()),
+                                             .type = isUsers
+                                                         ? platform::NavigationType::kLinkClicked
+                                                         : platform::NavigationType::kOther});
+}
+
+void Page::fail(const QUrl& url, const char* reason) {
+  if (!delegate_ || std::exchange(hasFailed_, true)) return;
+  const Call call(*this);
+  timeout_.stop();
+  delegate_->didFailProvisionalLoad(
+      {.description = QCoreApplication::translate("Wrenvale", reason).toStdString(),
+       .url = text(url)},
+      true);
+}
+
+} // namespace wrenvale::platform
