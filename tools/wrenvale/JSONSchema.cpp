@@ -69,7 +69,7 @@ public:
     if (const auto reference = stringValue(schema.find("$ref")))
       check(value, definition(*reference), pointer);
     if (!fits(value, schema))
-      return complain(pointer, subject(pointer) + " must be " + noun(schema, pointer));
+      complain(pointer, subject(pointer) + " must be " + noun(schema, pointer));
     if (value.isArray()) checkItems(value, schema, pointer);
     if (value.isDictionary()) checkMembers(value, schema, pointer);
   }
