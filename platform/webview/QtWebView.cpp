@@ -1,31 +1,22 @@
 #include "platform/webview/QtWebView.h"
 
-#include <algorithm>
-#include <utility>
-#include <vector>
+#include "platform/webview/EngineEnd.h"
 
 namespace wrenvale::platform {
 
 namespace {
 
-struct Parts {
-  QPointer<QWebEngineView> view;
-  QPointer<Page> page;
-  QPointer<QWebEngineProfile> profile;
+class View final : public QWebEngineView {
+public:
+  using QWebEngineView::QWebEngineView;
+
+protected:
+  // Each page has a widget to draw in, and the first one brings what it is drawn with.
+  void childEvent(QChildEvent* event) override {
+    QWebEngineView::childEvent(event);
+    endBeforeEngine();
+  }
 };
-
-// Of every view, until they are destroyed.
-std::vector<Parts>& existing() {
-  static auto& parts = *new std::vector<Parts>;
-  return parts;
-}
-
-void remember(Parts parts) {
-  auto& all = existing();
-  all.erase(std::remove_if(all.begin(), all.end(), [](const Parts& each) { return !each.profile; }),
-            all.end());
-  all.push_back(std::move(parts));
-}
 
 QWebEngineProfile* makeProfile() {
   auto* profile = new QWebEngineProfile; // without a name it is off the record
@@ -44,11 +35,12 @@ QString fromUTF8(std::string_view text) {
 QtWebView::QtWebView(WebViewDelegate& delegate)
     : profile_(makeProfile())
     , page_(new Page(*profile_, delegate))
-    , view_(new QWebEngineView(page_.data())) {
+    , view_(new View(page_.data())) {
   view_->setContextMenuPolicy(Qt::PreventContextMenu);
   view_->setAcceptDrops(false);
   QObject::connect(page_, &QObject::destroyed, profile_, &QObject::deleteLater);
-  remember({.view = view_, .page = page_, .profile = profile_});
+  destroyBeforeEngine({view_, page_, profile_});
+  endBeforeEngine();
 }
 
 QtWebView::~QtWebView() {
@@ -79,14 +71,6 @@ void QtWebView::callWebScriptMethod(std::string_view name, const std::vector<Val
 void QtWebView::close() {
   if (view_) view_->deleteLater();
   if (page_) page_->retire();
-}
-
-void QtWebView::endAll() {
-  for (const auto& parts : std::exchange(existing(), {})) {
-    delete parts.view;
-    delete parts.page;
-    delete parts.profile;
-  }
 }
 
 } // namespace wrenvale::platform

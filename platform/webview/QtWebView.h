@@ -26,10 +26,6 @@ public:
   void callWebScriptMethod(std::string_view name, const std::vector<Value>& arguments) override;
   void close() override;
 
-  /// Destroys what there is of all views, at once. The engine goes with the application object, and
-  /// nothing of it may be left then.
-  static void endAll();
-
 private:
   // Each may go before this, with the host's windows or with the application object.
   QPointer<QWebEngineProfile> profile_;

@@ -4,9 +4,8 @@
 
 #include <wrenvale/Export.h>
 
-#include <QCoreApplication>
-
 #include "platform/webview/Engine.h"
+#include "platform/webview/EngineEnd.h"
 #include "platform/webview/QtWebView.h"
 
 namespace wrenvale::platform {
@@ -16,28 +15,13 @@ namespace {
 class Module final : public WebViewModule {
 public:
   std::unique_ptr<WebView> makeWebView(WebViewDelegate& delegate) override {
-    if (hasEnded_ || (!hasStarted_ && !engineCanStart())) return nullptr;
-    if (!hasStarted_) chooseDrawing();
-    auto view = std::make_unique<QtWebView>(delegate);
-    // Routines run in the reverse order, so this one comes before the engine's own.
-    if (!std::exchange(hasStarted_, true)) qAddPostRoutine([] { module().end(); });
-    return view;
-  }
-
-  static Module& module() {
-    static auto& module = *new Module;
-    return module;
+    if (hasEngineEnded() || (!hasStarted_ && !engineCanStart())) return nullptr;
+    if (!std::exchange(hasStarted_, true)) chooseDrawing();
+    return std::make_unique<QtWebView>(delegate);
   }
 
 private:
-  // The engine cannot be started once more, for another application object.
-  void end() {
-    hasEnded_ = true;
-    QtWebView::endAll();
-  }
-
   bool hasStarted_ = false;
-  bool hasEnded_ = false;
 };
 
 } // namespace
@@ -47,5 +31,6 @@ private:
 extern "C" WRENVALE_EXPORT wrenvale::platform::WebViewModule* wrenvale_webview_module();
 
 extern "C" wrenvale::platform::WebViewModule* wrenvale_webview_module() {
-  return &wrenvale::platform::Module::module();
+  static auto& module = *new wrenvale::platform::Module;
+  return &module;
 }

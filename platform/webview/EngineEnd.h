@@ -1,0 +1,26 @@
+// The engine's orderly end. It goes with the application object, and what uses it has to go first,
+// while nobody else may be left to see to that.
+
+#ifndef WRENVALE_PLATFORM_WEBVIEW_ENGINEEND_H
+#define WRENVALE_PLATFORM_WEBVIEW_ENGINEEND_H
+
+#include <initializer_list>
+
+class QObject;
+
+namespace wrenvale::platform {
+
+/// When the application object goes, destroys the objects that still exist then, in this order.
+/// Main thread only.
+void destroyBeforeEngine(std::initializer_list<QObject*> objects);
+
+/// Has that come before the end of everything that the engine has set up until now. It sets up
+/// parts of itself when they are first needed, and each has an end of its own.
+void endBeforeEngine();
+
+/// The engine cannot be started once more, for another application object.
+bool hasEngineEnded();
+
+} // namespace wrenvale::platform
+
+#endif
