@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include <QApplication>
+#include <QDialog>
 #include <QKeyEvent>
 #include <QMainWindow>
 #include <QMouseEvent>
@@ -12,12 +13,17 @@ namespace screen {
 
 namespace {
 
-// Main windows first.
+// The main window is at the bottom, and dialogs are on top.
+int layerOf(const QWidget* window) {
+  if (qobject_cast<const QMainWindow*>(window)) return 0;
+  return qobject_cast<const QDialog*>(window) ? 2 : 1;
+}
+
 QWidgetList windows() {
   QWidgetList result = QApplication::topLevelWidgets();
   result.removeIf([](const QWidget* window) { return !window->isVisible(); });
-  std::stable_partition(result.begin(), result.end(),
-                        [](QWidget* window) { return qobject_cast<QMainWindow*>(window); });
+  std::stable_sort(result.begin(), result.end(),
+                   [](const QWidget* a, const QWidget* b) { return layerOf(a) < layerOf(b); });
   return result;
 }
 
