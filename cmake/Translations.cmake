@@ -5,5 +5,3 @@ foreach(language "" _ar _de _fr _ja)
   configure_file("resources/translations/wrenvale${language}.ts"
     "${WRENVALE_TRANSLATIONS_DIR}/wrenvale${language}.ts" @ONLY)
 endforeach()
-install(DIRECTORY "${WRENVALE_TRANSLATIONS_DIR}/" DESTINATION "${translations_dir}"
-  FILES_MATCHING PATTERN "*.ts")

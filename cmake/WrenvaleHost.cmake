@@ -17,19 +17,14 @@ function(wrenvale_host target)
   set(registration "${CMAKE_CURRENT_BINARY_DIR}/wrenvale_${target}_host.cpp")
   file(CONFIGURE OUTPUT "${registration}" @ONLY CONTENT [[
 // How the library finds the host's Info dictionary, and why the linker keeps the library.
+#include <wrenvale/HostInfo.h>
+
 extern "C" {
 extern const unsigned char @symbol@[];
 extern const unsigned long @symbol@_size;
-void wrenvale_host_link();
-
-struct WrenvaleHostInfo {
-  const unsigned char* infoPlist;
-  const unsigned long* infoPlistSize;
-  void (*link)();
-};
-__attribute__((visibility("default"))) extern const WrenvaleHostInfo wrenvale_host_info;
-const WrenvaleHostInfo wrenvale_host_info = {@symbol@, &@symbol@_size, &wrenvale_host_link};
 }
+
+WRENVALE_HOST_INFO(@symbol@, @symbol@_size)
 ]])
   target_sources(${target} PRIVATE "${embedded}" "${registration}")
   target_link_libraries(${target} PRIVATE Wrenvale::Wrenvale)

@@ -1,6 +1,7 @@
 // The one instance of a process, and its creation when the library is loaded. Part of the library
 // only, not of the logic: this is the one place where the built-in platform comes in.
 
+#include <wrenvale/HostInfo.h>
 #include <wrenvale/KVXWrenvale.h>
 #include <wrenvale/KVXWrenvaleController.h>
 #include <wrenvale/UserDefaults.h>
@@ -45,5 +46,4 @@ namespace {
 } // namespace wrenvale
 
 // Referred to by what wrenvale_host() adds to a host, so that the linker keeps the library.
-extern "C" WRENVALE_EXPORT void wrenvale_host_link();
-extern "C" void wrenvale_host_link() {}
+void wrenvale_host_link() {}

@@ -1,5 +1,7 @@
 #include "platform/linux/HostInfo.h"
 
+#include <wrenvale/HostInfo.h>
+
 // Weak, so that a program without an Info dictionary still loads the library.
 extern "C" __attribute__((weak, visibility("default"))) const WrenvaleHostInfo wrenvale_host_info;
 

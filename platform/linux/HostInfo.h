@@ -5,14 +5,6 @@
 
 #include <string_view>
 
-/// The layout is shared with the source that wrenvale_host() writes, and with every host built
-/// before: never change it.
-struct WrenvaleHostInfo {
-  const unsigned char* infoPlist;
-  const unsigned long* infoPlistSize;
-  void (*link)();
-};
-
 namespace wrenvale::platform {
 
 /// The bytes of the host's Info dictionary, a property list; empty when the host has none. They are

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <wrenvale/HostInfo.h>
+
 #include "platform/Platform.h"
 #include "platform/linux/HostInfo.h"
 
