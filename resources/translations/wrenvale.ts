@@ -146,6 +146,27 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Loading</source>
+        <extracomment>Read out by screen readers</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Web pages cannot be shown here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The page has ended unexpectedly.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server cannot be reached.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Ok</source>
         <translation type="unfinished"></translation>
     </message>

@@ -146,6 +146,27 @@
         <translation>شكرًا لتحديث</translation>
     </message>
     <message>
+        <source>Loading</source>
+        <extracomment>Read out by screen readers</extracomment>
+        <translation>جارٍ التحميل</translation>
+    </message>
+    <message>
+        <source>Web pages cannot be shown here.</source>
+        <translation>لا يمكن عرض صفحات الويب هنا.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>الخادم لا يستجيب.</translation>
+    </message>
+    <message>
+        <source>The page has ended unexpectedly.</source>
+        <translation>انتهت الصفحة بشكل غير متوقع.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached.</source>
+        <translation>تعذّر الوصول إلى الخادم.</translation>
+    </message>
+    <message>
         <source>Ok</source>
         <translation>حسنًا</translation>
     </message>

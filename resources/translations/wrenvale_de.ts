@@ -146,6 +146,27 @@
         <translation>Danke für das Update von</translation>
     </message>
     <message>
+        <source>Loading</source>
+        <extracomment>Read out by screen readers</extracomment>
+        <translation>Wird geladen</translation>
+    </message>
+    <message>
+        <source>Web pages cannot be shown here.</source>
+        <translation>Webseiten können hier nicht angezeigt werden.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>Der Server antwortet nicht.</translation>
+    </message>
+    <message>
+        <source>The page has ended unexpectedly.</source>
+        <translation>Die Seite wurde unerwartet beendet.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached.</source>
+        <translation>Der Server ist nicht erreichbar.</translation>
+    </message>
+    <message>
         <source>Ok</source>
         <translation>OK</translation>
     </message>

@@ -146,6 +146,27 @@
         <translation>Merci d’avoir mis à jour</translation>
     </message>
     <message>
+        <source>Loading</source>
+        <extracomment>Read out by screen readers</extracomment>
+        <translation>Chargement</translation>
+    </message>
+    <message>
+        <source>Web pages cannot be shown here.</source>
+        <translation>Impossible d’afficher des pages web ici.</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>Le serveur ne répond pas.</translation>
+    </message>
+    <message>
+        <source>The page has ended unexpectedly.</source>
+        <translation>La page s’est fermée de façon inattendue.</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached.</source>
+        <translation>Impossible de joindre le serveur.</translation>
+    </message>
+    <message>
         <source>Ok</source>
         <translation>OK</translation>
     </message>

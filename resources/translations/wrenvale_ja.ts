@@ -146,6 +146,27 @@
         <translation>アップデートありがとうございます：</translation>
     </message>
     <message>
+        <source>Loading</source>
+        <extracomment>Read out by screen readers</extracomment>
+        <translation>読み込み中</translation>
+    </message>
+    <message>
+        <source>Web pages cannot be shown here.</source>
+        <translation>ここではウェブページを表示できません。</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>サーバが応答しません。</translation>
+    </message>
+    <message>
+        <source>The page has ended unexpectedly.</source>
+        <translation>ページが予期せず終了しました。</translation>
+    </message>
+    <message>
+        <source>The server cannot be reached.</source>
+        <translation>サーバに接続できません。</translation>
+    </message>
+    <message>
         <source>Ok</source>
         <translation>OK</translation>
     </message>

@@ -36,7 +36,7 @@ QStringList filesIn(const char* folder, const QStringList& patterns) {
 // ends in a blank goes before the name of the maker's site.
 void addLookedUpIn(const QString& source, Texts& texts) {
   static const QRegularExpression place(
-      R"re((?:localized(?:Text|Title)|translated)\([^;"]*(("[^"]*"[^;"]*)+);|\.english = ("[^"]*"))re");
+      R"re((?:localized(?:Text|Title)|translated|QT_TRANSLATE_NOOP)\([^;"]*(("[^"]*"[^;"]*)+);|\.english = ("[^"]*"))re");
   static const QRegularExpression literal("\"([^\"]*)\"");
   auto places = place.globalMatch(contents(source));
   while (places.hasNext()) {
