@@ -44,6 +44,8 @@ std::vector<std::string> environmentOf(const fs::path& home,
   variables["QT_QPA_PLATFORM"] = "offscreen";
   variables["LC_ALL"] = "en_US.UTF-8";
   variables["LANGUAGE"] = "";
+  // The web engine does not start for root otherwise.
+  if (geteuid() == 0) variables["QTWEBENGINE_DISABLE_SANDBOX"] = "1";
   for (const auto& [name, value] : changes)
     variables[name] = value;
   std::vector<std::string> result;
