@@ -2,6 +2,14 @@
 <!DOCTYPE TS>
 <TS version="2.1" sourcelanguage="en" language="ar">
 <context>
+    <name>InfoPlist</name>
+    <message>
+        <source>CFBundleName</source>
+        <extracomment>The application&apos;s own name. While this is left unfinished, the name in Info.plist is shown.</extracomment>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Wrenvale</name>
     <message>
         <source>Rate %1</source>

@@ -1,6 +1,8 @@
 # The tour by hand: a person clicks, and is told afterwards what came of it.
 
 wait_for_person() { # build
+  local speaking
+  speaking=$(callers_locale)
   mark_log
   run_photo_tool "$1"
   show "Requests that the server saw" "$(requests_since_mark)"

@@ -41,7 +41,13 @@ make_stand_ins() {
 
 has_display() { [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; }
 
-# In the language of `speaking`, "en_US" when that is not set.
+# The caller's locale when it is of a language other than English.
+callers_locale() {
+  local locale=${LC_ALL:-${LC_MESSAGES:-${LANG:-}}}
+  case ${locale%%.*} in '' | C | POSIX | en*) ;; *) echo "${locale%%.*}" ;; esac
+}
+
+# In the locale `speaking`, "en_US" when that is not set.
 run_photo_tool() { # build, option...
   local build=$1 surroundings=()
   shift
