@@ -127,6 +127,7 @@ void Page::insertScripts() {
 void Page::start(const QUrl& url, std::chrono::milliseconds timeout) {
   timeout_.start(timeout);
   load(url);
+  setVisible(true); // or the page would be held back until its window shows it
 }
 
 bool Page::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) {

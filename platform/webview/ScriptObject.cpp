@@ -30,7 +30,8 @@ QString compact(const QJsonArray& array) {
 
 Value numberFrom(const QJsonValue& json) {
   const double number = json.toDouble();
-  const bool whole = number == std::trunc(number) && std::abs(number) < kIntegersEnd;
+  const bool whole =
+      number == std::trunc(number) && number >= -kIntegersEnd && number < kIntegersEnd;
   return whole ? Value(static_cast<std::int64_t>(json.toInteger(static_cast<qint64>(number))))
                : Value(number);
 }

@@ -1,0 +1,118 @@
+// Why pages go somewhere, and what comes of it.
+
+#include "WebViewFixture.h"
+
+namespace wrenvale::platform {
+namespace {
+
+class NavigationTest : public WebViewTest {
+protected:
+  /// The navigations that were asked about since the page began, with the site's address left out.
+  std::vector<std::string> asked() const {
+    std::vector<std::string> result;
+    for (auto call : delegate_.calls) {
+      for (std::size_t at = 0; (at = call.find(site_.url(""))) != call.npos;)
+        call.erase(at, site_.url("").size());
+      if (call.starts_with("go ") || call.starts_with("open ")) result.push_back(call);
+    }
+    return result;
+  }
+};
+
+constexpr const char* kPage = R"(<!DOCTYPE html><title>Test</title>
+<a id=link href="/linked">link</a> <a id=blank target=_blank href="/linked">link</a>
+<a id=inside href="#inside">link</a> <a id=mail href="mailto:a@b.example">link</a>
+<a id=file href="file:///etc/hostname">link</a> <a id=top target=_top href="/linked">link</a>
+<a id=handled href="/linked" onclick="return false">link</a>
+<form id=form action="/sent"></form><form id=post method=post action="/sent"></form>
+<iframe id=frame name=frame src="/framed"></iframe>
+<script>const $ = id => document.getElementById(id); const framed = id => $('frame').contentDocument.getElementById(id);
+onload = () => setTimeout(() => { Recommender.act(); run(); setTimeout(() => Recommender.done(), 150); });
+</script>)";
+
+TEST_F(NavigationTest, IsAskedAboutWithItsReason) {
+  const struct {
+    const char* script;
+    std::vector<std::string> asked;
+  } rows[] = {
+      {"location = '/other'", {"go 5 /other"}},
+      {"location.replace('/other')", {"go 5 /other"}},
+      {"location = '/redirected'", {"go 5 /redirected", "go 5 /other"}},
+      {"location.reload()", {"go 3 /"}},
+      {"$('link').click()", {"go 0 /linked"}},
+      {"$('inside').click()", {"go 0 /#inside"}},
+      {"location.hash = 'inside'", {}},
+      {"$('handled').click()", {}},
+      {"$('mail').click()", {"go 0 mailto:a@b.example"}},
+      {"location = 'mailto:a@b.example'", {}},
+      {"$('file').click()", {}},
+      {"location = 'file:///etc/hostname'", {}},
+      {"$('form').submit()", {"go 1 /sent?"}},
+      {"$('post').submit()", {"go 1 /sent"}},
+      {"$('blank').click()", {"open 0 /linked"}},
+      {"window.open('/other')", {"open 5 /other"}},
+      {"frame.location = '/other'", {"go 5 /other in /"}},
+      {"framed('link').click()", {"go 0 /linked in /"}},
+      {"framed('top').click()", {"go 0 /linked"}},
+      {"framed('form').submit()", {"go 1 /sent? in /"}},
+  };
+  site_.page("/framed", "<a id=link href='/linked'>l</a> <a id=top target=_top href='/linked'>l</a>"
+                        "<form id=form action='/sent'></form>");
+  site_.answer("/redirected", answerWith("", "302 Found", "Location: /other\r\n"));
+  for (const auto& row : rows) {
+    site_.page("/", std::string(kPage) + "<script>function run() {" + row.script + "}</script>");
+    bool began = false;
+    delegate_.onInvoke = [&](std::string_view name) {
+      if (name == "act") {
+        began = true;
+        delegate_.calls.clear();
+      }
+      return Value();
+    };
+    delegate_.onDecide = [&](const NavigationAction& action) {
+      return began && action.url != site_.url("/redirected") ? PolicyDecision::kIgnore
+                                                             : PolicyDecision::kUse;
+    };
+    load("/");
+    EXPECT_TRUE(waitUntil([&] { return delegate_.has("done"); }, std::chrono::seconds(3)))
+        << row.script;
+    EXPECT_EQ(asked(), row.asked) << row.script;
+    EXPECT_FALSE(delegate_.has("fail")) << row.script;
+  }
+}
+
+// As a person clicks: on the widget that has the page, wherever in it the pointer is.
+TEST_F(NavigationTest, ClicksOfAPersonLeave) {
+  const struct {
+    const char* link;
+    Qt::MouseButton button;
+    const char* asked;
+  } rows[] = {
+      {"<a href='/linked'>", Qt::LeftButton, "go 0 /linked"},
+      {"<a href='/linked'>", Qt::MiddleButton, "open 0 /linked"},
+      {"<a href='/linked' target=_blank>", Qt::LeftButton, "open 0 /linked"},
+      {"<div onclick='window.open(\"/linked\")'>", Qt::LeftButton, "open 0 /linked"},
+      {"<div onclick='location = \"/linked\"'>", Qt::LeftButton, "go 5 /linked"},
+  };
+  for (const auto& row : rows) {
+    site_.page("/", "<!DOCTYPE html><body style='margin:0;font-size:300px'>" +
+                        std::string(row.link) +
+                        "Link<script>onload = () => requestAnimationFrame(() => "
+                        "requestAnimationFrame(() => Recommender.done()))</script>");
+    load("/");
+    window_->makeKeyAndOrderFront();
+    ASSERT_TRUE(waitFor("done"));
+    delegate_.onDecide = [](const NavigationAction&) { return PolicyDecision::kIgnore; };
+    auto* view = widget()->findChild<QWidget*>("webView");
+    const auto clicked = [&] {
+      QTest::mouseClick(view->focusProxy(), row.button, {}, {100, 150});
+      return waitUntil([&] { return asked().size() > 1; }, std::chrono::milliseconds(500));
+    };
+    EXPECT_TRUE(clicked() || clicked()) << row.link; // the first may come before there is a frame
+    EXPECT_EQ(asked().back(), row.asked) << row.link;
+    delegate_.onDecide = nullptr;
+  }
+}
+
+} // namespace
+} // namespace wrenvale::platform

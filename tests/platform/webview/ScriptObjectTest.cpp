@@ -1,0 +1,187 @@
+// The object that a page's scripts get: what they may do with it, and what nobody can do to it.
+
+#include "WebViewFixture.h"
+
+namespace wrenvale::platform {
+namespace {
+
+using testing::ElementsAre;
+using Told = std::vector<std::string>;
+
+class ScriptObjectTest : public WebViewTest {};
+
+TEST_F(ScriptObjectTest, TakesValuesOverAsTheyAre) {
+  const struct {
+    const char* argument;
+    const char* value;
+  } rows[] = {
+      {"null", "null"},
+      {"undefined", "null"},
+      {"true", "true"},
+      {"-0", "0"},
+      {"9007199254740991", "9007199254740991"},
+      {"-9223372036854775808", "-9223372036854775808"},
+      {"9223372036854775808", "real 9223372036854775808.000000"},
+      {"2.5", "real 2.500000"},
+      {"1e300 * 1e300", "null"},
+      {"NaN", "null"},
+      {"'\\u00e4\\u2028\"\\\\\\u{1F600}'", "\xC3\xA4\xE2\x80\xA8\"\\\xF0\x9F\x98\x80"},
+      {"'\\ud800'", "?"},
+      {"'1'", "1"},
+      {"''", ""},
+      {"{toJSON: () => 'x', toString: () => 'x', valueOf: () => 1}", "null"},
+      {"[1]", "null"},
+      {"new String('x')", "null"},
+      {"Symbol()", "null"},
+      {"5n", "null"},
+      {"document.body", "null"},
+      {"'x'.repeat(10000000)", "10000000 bytes"},
+      {"'\\u00e4'.repeat(9999)", "19998 bytes"},
+  };
+  std::string script;
+  Told expected;
+  for (const auto& row : rows) {
+    script += "tell(" + std::string(row.argument) + ");\n";
+    expected.push_back(row.value);
+  }
+  ASSERT_TRUE(run(script));
+  EXPECT_EQ(told(), expected);
+}
+
+TEST_F(ScriptObjectTest, AnswersAndFails) {
+  const std::optional<Value> results[] = {
+      Value(), true, -7, std::string(3'000'000, 'x'), "\xC3\xA4\"\\\xE2\x80\xA8", {}, 2.5};
+  std::size_t next = 0;
+  delegate_.onInvoke = [&](std::string_view name) {
+    return name == "give" ? results[next++] : Value();
+  };
+  ASSERT_TRUE(run(R"(
+    const show = v => tell(typeof v + (typeof v == 'string' ? v.length : v));
+    for (let i = 0; i < 5; ++i) show(Recommender.give());
+    try { Recommender.give() } catch (e) { tell(e.constructor === TypeError) }
+    show(Recommender.give());)"));
+  EXPECT_THAT(told(), ElementsAre("objectnull", "booleantrue", "number-7", "string3000000",
+                                  "string4", "true", "objectnull"));
+}
+
+TEST_F(ScriptObjectTest, HasItsMethodsAndNothingElse) {
+  ASSERT_TRUE(run(R"(
+    tell(Object.getOwnPropertyNames(Recommender).join());
+    Recommender.pair; Recommender['pair:'](1); Recommender['pair:'](1, 2, 3);
+    Recommender['setWidth:height'](640, 480);
+    Recommender['setWidth:height'](-1e18, 1e18);
+    for (const name of ['invoke', 'toString', 'constructor', '__proto__', 'pair', 'setWidth', 'Done'])
+      try { Recommender[name](); tell('called ' + name) } catch (e) { tell(e.name) }
+    const { done: alone } = Recommender; alone.call(7);)"));
+  Told expected(7, "TypeError");
+  expected.insert(expected.begin(), "log,pair:,give,done,act,setWidth:height");
+  EXPECT_EQ(told(), expected);
+  for (const char* call : {"pair:,1,null", "pair:,1,2", "setWidth:height,640,480",
+                           "setWidth:height,-1000000000000000000,1000000000000000000"})
+    EXPECT_TRUE(delegate_.has(call)) << call;
+}
+
+// Whatever a page replaces, calls stay what they are and their secret where it is.
+TEST_F(ScriptObjectTest, CannotBeTamperedWith) {
+  const struct {
+    const char* what;
+    const char* script;
+  } rows[] = {
+      {"the object", "Recommender = {log: 1}; delete window.Recommender; Recommender.log = null;"
+                     "Object.assign(Recommender, {x: 1}); tell('x' in Recommender)"},
+      {"strictly", "'use strict'; Object.defineProperty(window, 'Recommender', {value: 1})"},
+      {"a method", "Recommender.log.x = 1; Object.setPrototypeOf(Recommender, {x: 1})"},
+      {"prompt", "window.prompt = m => leak(m); "
+                 "Object.defineProperty(window, 'prompt', {value: m => leak(m)})"},
+      {"prompt's prototype", "Window.prototype.prompt = m => leak(m); delete window.prompt"},
+      {"JSON", "JSON.stringify = v => leak(v); JSON.parse = v => leak(v)"},
+      {"toJSON", "String.prototype.toJSON = Object.prototype.toJSON = Array.prototype.toJSON = "
+                 "function () { leak(this) }; tell({}), tell('')"},
+      {"strings",
+       "String.prototype.slice = String.prototype.startsWith = String.prototype.concat = "
+       "function (v) { leak(this) }; tell('x'.repeat(20000).length), tell('y'.repeat(20000))"},
+      {"arrays", "Array.prototype[0] = 'leak'; Array.prototype[Symbol.iterator] = "
+                 "function* () { leak(this) }; Recommender['pair:'](1)"},
+      {"functions", "Function.prototype.call = Function.prototype.apply = Reflect.apply = "
+                    "(...v) => leak(v); tell(1)"},
+      {"setters", "for (const key of ['token', 'name', 'methods', 'value', 'get', 'arguments'])"
+                  "  Object.defineProperty(Object.prototype, key, {get() {}, set(v) { leak(v) }})"},
+      {"its source", "tell(/[0-9a-f]{32}/.test('' + Recommender.log))"},
+      {"a document anew",
+       "window.leaked = leak; setTimeout(() => { document.open(); document.write("
+       "'<script>tell(typeof Recommender); Recommender.act()<\\/script>') })"},
+  };
+  for (const auto& row : rows) {
+    ASSERT_TRUE(run("window.leak = v => tell('leak ' + v);" + std::string(row.script))) << row.what;
+    EXPECT_THAT(told(), testing::Not(testing::Contains(testing::HasSubstr("leak ")))) << row.what;
+    EXPECT_THAT(told(), testing::Not(testing::Contains("true"))) << row.what;
+  }
+}
+
+TEST_F(ScriptObjectTest, PagesDialogsDoNothing) {
+  ASSERT_TRUE(run("tell(prompt('Name?', 'x'), confirm('Sure?'), alert('Well'), typeof print)"));
+  EXPECT_THAT(told(), ElementsAre("null", "false", "null", "function"));
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+// Frames of the page's own origin reach what is the page's; no frame gets an object of its own, and
+// none can ask as the page does.
+TEST_F(ScriptObjectTest, FramesGetNone) {
+  const std::string frame = R"(<script>
+    const results = [typeof Recommender, '' + prompt('x'.repeat(32) + 'w["done"]')];
+    parent.postMessage(results.join(), '*')</script>)";
+  site_.page("/frame", frame);
+  site_.page("/", R"(<!DOCTYPE html><script>
+    let count = 0;
+    onmessage = e => { Recommender.log(e.data); if (++count == 4) Recommender.done() };
+    </script><iframe src='/frame'></iframe>
+    <iframe src=')" + site_.url("/frame", "localhost") +
+                      R"('></iframe>
+    <iframe sandbox='allow-scripts allow-modals' src='/frame'></iframe>
+    <iframe srcdoc="<script>parent.postMessage([typeof Recommender, '' + prompt('x')].join(), '*')</script>"></iframe>)");
+  load("/");
+  ASSERT_TRUE(waitFor("done"));
+  EXPECT_EQ(told(), Told(4, "undefined,null"));
+}
+
+TEST_F(ScriptObjectTest, CallsThePage) {
+  site_.page("/", R"(<!DOCTYPE html><script>
+    function take(...values) { Recommender.log(JSON.stringify([values.length, ...values])) }
+    const notAFunction = 1; function fail() { throw new Error }
+    Recommender.act();</script>)");
+  load("/");
+  EXPECT_FALSE(window_->hasScriptObject());
+  ASSERT_TRUE(waitFor("act"));
+  EXPECT_TRUE(window_->hasScriptObject());
+  const std::string text = "[\"</script>\\ \xE2\x80\xA8 %1 %2 \xF0\x9F\x98\x80\"]";
+  for (const char* missing : {"missing", "notAFunction", "fail", "a\"b", "take()"})
+    window_->callWebScriptMethod(missing, {Value("x")});
+  window_->callWebScriptMethod("take", {});
+  window_->callWebScriptMethod("take", {Value(text), Value(), Value(true), Value(7)});
+  window_->callWebScriptMethod("take", {Value(std::string(300'000, 'x'))});
+  ASSERT_TRUE(waitUntil([&] { return told().size() == 3; }));
+  EXPECT_THAT(told(), ElementsAre("[0]", testing::HasSubstr("null,true,7]"), "300006 bytes"));
+}
+
+// A page that is not given one has none, and no page has what an earlier one had.
+TEST_F(ScriptObjectTest, IsEachPagesOwn) {
+  int pages = 0;
+  delegate_.onClear = [&] {
+    if (++pages != 2) window_->setScriptObject("Recommender", methods_);
+  };
+  const auto next = [](const std::string& path) {
+    return "<script>fetch('/is-' + typeof Recommender).then(() => location = '" + path +
+           "')</script>";
+  };
+  site_.page("/", next("/second"));
+  site_.page("/second", next("/third"));
+  site_.page("/third", "<script>Recommender.done()</script>");
+  load("/");
+  ASSERT_TRUE(waitFor("done"));
+  EXPECT_EQ(pages, 3);
+  EXPECT_NE(site_.headOf("/is-object"), "");
+  EXPECT_NE(site_.headOf("/is-undefined"), "");
+}
+
+} // namespace
+} // namespace wrenvale::platform
