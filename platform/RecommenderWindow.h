@@ -75,7 +75,7 @@ public:
   /// The same for an alert that is made from an error.
   virtual void beginErrorSheet(const LoadError& error, std::function<void()> handler) = 0;
 
-  /// Closes the window; the delegate is told.
+  /// Closes the window and ends its page; the delegate is told.
   virtual void close() = 0;
   /// Ends the page: no script, sound or request of it is left.
   virtual void closeWebView() = 0;

@@ -28,7 +28,7 @@ public:
   void closeWebView();
   void show();
   void beginSheet(const Alert& alert, std::function<void(int)> handler);
-  /// Closes the window; the delegate is told, once.
+  /// Closes the window and ends its page; the delegate is told, once.
   void close();
   /// Closes for good; the delegate is not called any more.
   void end();
@@ -130,12 +130,12 @@ void QtRecommenderWindow::Session::close() {
   waiting_.clear();
   if (widget_) widget_->hide();
   if (delegate) delegate->windowWillClose();
+  closeWebView();
 }
 
 void QtRecommenderWindow::Session::end() {
   delegate_ = nullptr;
   close();
-  closeWebView();
   if (widget_) widget_->deleteLater();
 }
 

@@ -16,6 +16,10 @@ namespace wrenvale::platform {
 
 namespace {
 
+constexpr const char* kUnreachable = QT_TRANSLATE_NOOP("Wrenvale", "The server cannot be reached.");
+constexpr const char* kSilent = QT_TRANSLATE_NOOP("Wrenvale", "The server does not answer.");
+constexpr const char* kEnded = QT_TRANSLATE_NOOP("Wrenvale", "The page has ended unexpectedly.");
+
 std::string text(const QUrl& url) {
   return url.toEncoded().toStdString();
 }
@@ -64,14 +68,14 @@ Page::Page(QWebEngineProfile& profile, WebViewDelegate& delegate)
   insertScripts();
   timeout_.setSingleShot(true);
   connect(&timeout_, &QTimer::timeout, this, [this] {
-    fail(requestedUrl(), QT_TRANSLATE_NOOP("Wrenvale", "The server does not answer."));
+    fail(requestedUrl(), kSilent);
     triggerAction(Stop);
   });
   connect(this, &QWebEnginePage::loadingChanged, this, &Page::onLoading);
   connect(this, &QWebEnginePage::newWindowRequested, this, &Page::onNewWindow);
   connect(this, &QWebEnginePage::renderProcessTerminated, this, [this] {
     scriptObject_.clear();
-    fail(url(), QT_TRANSLATE_NOOP("Wrenvale", "The page has ended unexpectedly."));
+    fail(url(), kEnded);
   });
 }
 
@@ -125,6 +129,10 @@ void Page::insertScripts() {
 }
 
 void Page::start(const QUrl& url, std::chrono::milliseconds timeout) {
+  if (url.scheme() != "http" && url.scheme() != "https") {
+    QTimer::singleShot(0, this, [this, url] { fail(url, kUnreachable); });
+    return;
+  }
   timeout_.start(timeout);
   load(url);
   setVisible(true); // or the page would be held back until its window shows it
@@ -198,7 +206,7 @@ void Page::onEnd(const QWebEngineLoadingInfo& info) {
     timeout_.stop();
     hadDocument_ = true;
   } else if (info.status() == Info::LoadFailedStatus || !hadDocument_) {
-    fail(info.url(), QT_TRANSLATE_NOOP("Wrenvale", "The server cannot be reached."));
+    fail(info.url(), kUnreachable);
   }
 }
 

@@ -179,8 +179,8 @@ TEST_F(ScriptObjectTest, IsEachPagesOwn) {
   load("/");
   ASSERT_TRUE(waitFor("done"));
   EXPECT_EQ(pages, 3);
-  EXPECT_NE(site_.headOf("/is-object"), "");
-  EXPECT_NE(site_.headOf("/is-undefined"), "");
+  EXPECT_EQ(site_.heads("/is-object").size(), 1U);
+  EXPECT_EQ(site_.heads("/is-undefined").size(), 1U);
 }
 
 } // namespace

@@ -30,13 +30,15 @@ inline bool waitUntil(const std::function<bool()>& condition,
   QEventLoop loop;
   QTimer poll;
   QElapsedTimer time;
+  bool holds = condition();
   QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
-    if (condition() || time.hasExpired(patience.count())) loop.quit();
+    holds = condition();
+    if (holds || time.hasExpired(patience.count())) loop.quit();
   });
   time.start();
   poll.start(5);
-  if (!condition()) loop.exec();
-  return condition();
+  if (!holds) loop.exec();
+  return holds;
 }
 
 /// Pages by their paths; what is not there is 404 with a page of its own.
@@ -58,17 +60,19 @@ public:
   std::string url(std::string_view path = "/", std::string_view host = "127.0.0.1") const {
     return server_.url(path, host);
   }
-  std::string headOf(const std::string& path) const {
+  /// The heads of the requests for this path, in lower case.
+  std::vector<std::string> heads(const std::string& path) const {
+    std::vector<std::string> result;
     for (const auto& head : server_.requests())
-      if (head.starts_with("get " + path + " ")) return head;
-    return {};
+      if (head.starts_with("get " + path + " ")) result.push_back(head);
+    return result;
   }
 
   static constexpr const char* kHTML = "Content-Type: text/html; charset=utf-8\r\n";
 
 private:
   Script scriptFor(const std::string& head) {
-    const auto path = head.substr(4, head.find(' ', 4) - 4);
+    const auto path = head.empty() ? head : head.substr(4, head.find(' ', 4) - 4);
     const std::lock_guard lock(mutex_);
     const auto found = scripts_.find(path);
     if (found != scripts_.end()) return found->second;
