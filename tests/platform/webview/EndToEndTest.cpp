@@ -28,8 +28,8 @@ constexpr const char* kPage = R"(<!DOCTYPE html><meta charset=utf-8><body><scrip
 class EndToEndTest : public WelcomeTest {
 protected:
   EndToEndTest()
-      : real{fake.platform, fake.localization, fake.application, fake.workspace,
-             fake.queues,   fake.rateWindows,  fake.alerts,      windows} {}
+      : real{fake.platform,    fake.localization, fake.application, fake.workspace, fake.queues,
+             fake.rateWindows, fake.alerts,       windows,          fake.menus} {}
 
   void open(BuildConfiguration configuration = {}) {
     configuration.vendorBase = site.url("");
