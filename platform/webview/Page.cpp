@@ -79,6 +79,12 @@ Page::Page(QWebEngineProfile& profile, WebViewDelegate& delegate)
   });
 }
 
+// Whatever else goes reports nothing any more.
+Page::~Page() {
+  delegate_ = nullptr;
+  disconnect(this, nullptr, this, nullptr);
+}
+
 void Page::retire() {
   if (!std::exchange(delegate_, nullptr)) return;
   timeout_.stop();

@@ -19,6 +19,7 @@ namespace wrenvale::platform {
 class Page final : public QWebEnginePage {
 public:
   Page(QWebEngineProfile& profile, WebViewDelegate& delegate);
+  ~Page() override;
 
   /// The page is destroyed once no call of it is under way; the delegate is not called any more.
   void retire();

@@ -32,6 +32,7 @@ public:
   Run run(const std::string& program, std::vector<std::string> arguments = {},
           const std::map<std::string, std::string>& environment = {}) const;
 
+  const std::filesystem::path& folder() const { return folder_; }
   std::filesystem::path settings(const std::string& identifier) const;
   /// The settings as they are on disk; null when there is no readable file.
   Value defaults(const std::string& identifier) const;

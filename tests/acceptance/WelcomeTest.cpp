@@ -1,0 +1,107 @@
+// Hosts whose welcome window is due: what their users see is tested elsewhere, here that it does
+// them no harm, whatever is missing and however they end.
+
+#include <unistd.h>
+
+#include <atomic>
+#include <fstream>
+
+#include <gmock/gmock.h>
+
+#include "tests/acceptance/HostProcess.h"
+#include "tests/acceptance/VendorServer.h"
+
+namespace wrenvale::tests {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* kHost = "com.example.plainhost";
+constexpr const char* kPage = "/store/newsletter/index_US.html";
+
+class Welcome : public testing::Test {
+protected:
+  /// Runs the host after an update whose window is owed.
+  tests::Run run(const char* end, const char* time,
+                 std::map<std::string, std::string> environment) {
+    fs::create_directories(home_.settings(kHost).parent_path());
+    std::ofstream(home_.settings(kHost))
+        << "<plist version=\"1.0\"><dict><key>Recommender Last Version</key><integer>7</integer>"
+           "<key>Show Update Window</key><true/></dict></plist>";
+    return home_.run(WELCOME_HOST, {end, time}, environment);
+  }
+  bool isOwed() const { return home_.defaults(kHost).find("Show Update Window") == Value(true); }
+  bool wasPageAskedFor() const {
+    const auto requests = server_.requests();
+    return std::any_of(requests.begin(), requests.end(),
+                       [](const auto& request) { return request.path == kPage; });
+  }
+
+  const Home home_;
+  std::atomic<bool> shows_ = false; // the page, itself
+  const VendorServer server_{[this](const auto& request, httplib::Response& response) {
+    if (request.path != kPage) return response.set_content("[]", "application/json");
+    response.set_content(shows_ ? "<script>Recommender.showWindow()</script>" : "<p>Page",
+                         "text/html");
+  }};
+};
+
+// Without an engine it is as if the page could not be fetched: the hidden window closes, and counts
+// as delivered.
+TEST_F(Welcome, WithoutAnEngineTheWindowIsOver) {
+  const auto folder = home_.folder() / "library";
+  fs::create_directories(folder / "wrenvale");
+  const fs::path library = WRENVALE_LIBRARY;
+  const fs::path net = WRENVALE_NET_MODULE;
+  fs::copy_file(library, folder / library.filename());
+  fs::copy_file(net, folder / "wrenvale" / net.filename());
+  std::map<std::string, std::string> rows = {{"LD_LIBRARY_PATH", folder},
+                                             {"QTWEBENGINEPROCESS_PATH", folder / "missing"},
+                                             {"QTWEBENGINE_RESOURCES_PATH", folder / "missing"}};
+  if (geteuid() == 0) rows["QTWEBENGINE_DISABLE_SANDBOX"] = "0";
+  for (const auto& variable : rows) {
+    const auto ended = run("quit", "400", {variable});
+    EXPECT_EQ(ended.status, 0) << variable.first << ": " << ended.errors;
+    EXPECT_FALSE(isOwed()) << variable.first;
+  }
+  EXPECT_FALSE(wasPageAskedFor());
+}
+
+bool isRunning(const Home& home) {
+  std::error_code gone;
+  for (const auto& entry : fs::directory_iterator("/proc")) {
+    std::ifstream file(entry.path() / "environ", std::ios::binary);
+    const std::string environment(std::istreambuf_iterator<char>(file), {});
+    if (environment.find("HOME=" + home.folder().string() + '\0') != environment.npos) return true;
+  }
+  return false;
+}
+
+// Early, in the middle of it, and when the page is there.
+TEST_F(Welcome, EndsWithItsHostAndLeavesNothing) {
+  const auto temporary = home_.folder() / "tmp";
+  fs::create_directories(temporary);
+  for (const char* end : {"quit", "exit", "delete", "again"})
+    for (const char* time : {"0", "120", "250", "700"}) {
+      SCOPED_TRACE(std::string(end) + " after " + time);
+      shows_ = !shows_;
+      const auto ended =
+          run(end, time, {{"TMPDIR", temporary}, {"XDG_RUNTIME_DIR", home_.folder()}});
+      EXPECT_EQ(ended.status, 0) << ended.errors;
+      for (int i = 0; i < 100 && isRunning(home_); ++i)
+        usleep(20'000); // its processes notice its end by themselves
+      EXPECT_FALSE(isRunning(home_));
+      EXPECT_TRUE(fs::is_empty(temporary));
+      const bool mayClose = shows_ || *end == 'd' || *end == 'a';
+      EXPECT_TRUE(isOwed() || mayClose) << "quitting does not close a hidden window";
+    }
+  EXPECT_TRUE(wasPageAskedFor());
+  std::vector<std::string> left;
+  for (const auto& entry : fs::recursive_directory_iterator(home_.folder()))
+    if (entry.is_regular_file()) left.push_back(entry.path().filename());
+  EXPECT_THAT(left, testing::UnorderedElementsAre("defaults.plist", "defaults.plist.lock", "output",
+                                                  "errors"));
+}
+
+} // namespace
+} // namespace wrenvale::tests

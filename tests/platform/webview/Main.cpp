@@ -1,0 +1,17 @@
+// The tests' application object: real widgets, offscreen unless the environment says otherwise.
+
+#include <unistd.h>
+
+#include <gmock/gmock.h>
+
+#include <QApplication>
+
+int main(int argc, char** argv) {
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  // The engine does not run as root otherwise.
+  if (geteuid() == 0) qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+  QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  testing::InitGoogleMock(&argc, argv);
+  return RUN_ALL_TESTS();
+}
