@@ -50,7 +50,7 @@ TEST_F(ClosingTest, FromInsideAnyCall) {
     for (const auto& [moment, path] : moments) {
       SCOPED_TRACE(std::string(way) + " at " + moment + " of " + path);
       std::size_t calls = 0;
-      const auto act = [&, moment = std::string_view(moment)] {
+      const auto act = [&, moment = std::string_view(moment), go = go] {
         if (!window_ || calls > 0 || !delegate_.calls.back().starts_with(moment)) return;
         calls = delegate_.calls.size();
         go(window_);
