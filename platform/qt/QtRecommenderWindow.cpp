@@ -3,7 +3,6 @@
 #include <utility>
 
 #include <QApplication>
-#include <QPointer>
 
 #include "platform/qt/AlertBox.h"
 #include "platform/qt/RecommenderWindowWidget.h"
@@ -115,12 +114,16 @@ void QtRecommenderWindow::Session::beginSheet(const Alert& alert,
 
 void QtRecommenderWindow::Session::raiseSheet(const Alert& alert,
                                               std::function<void(int)> handler) {
-  const QPointer<AlertBox> box = new AlertBox(alert);
+  auto* box = new AlertBox(alert);
+  // The box tells while it is whole: when the sheet ends, it may be half destroyed.
+  const auto answer = std::make_shared<int>(AlertBox::closedAnswer(alert));
+  QObject::connect(box, &QDialog::finished, box, [box, answer] {
+    *answer = box->answer();
+    box->deleteLater();
+  });
   platform::beginSheet(*box, widget_,
-                       [self = shared_from_this(), box, handler = std::move(handler),
-                        closed = AlertBox::closedAnswer(alert)](int) {
-                         if (box) box->deleteLater();
-                         if (self->delegate_) handler(box ? box->answer() : closed);
+                       [self = shared_from_this(), answer, handler = std::move(handler)](int) {
+                         if (self->delegate_) handler(*answer);
                        });
 }
 
