@@ -7,7 +7,7 @@
 namespace wrenvale::platform {
 
 /// False where the engine's own program or data are missing, where it could not put its processes
-/// into a sandbox (as root, or where the system grants no user namespaces, unless the user has
+/// into a sandbox (as root, or where the system grants no namespaces, unless the user has
 /// switched the sandbox off in the environment), and without shared memory. Starts nothing.
 bool engineCanStart();
 

@@ -34,6 +34,33 @@ TEST_F(WelcomeTest, LoadsThePageHidden) {
   }
 }
 
+// As configured, of whatever origin a page is, or the maker's only.
+TEST_F(WelcomeTest, GivesItsObjectToThePagesThatMayHaveIt) {
+  const struct {
+    const char* origin;
+    bool mayInGeneral, mayAsVendors;
+  } rows[] = {
+      {"http://vendor.example/", true, true},
+      {"http://vendor.example:80", true, true},
+      {"https://vendor.example", true, false},
+      {"http://other.example", true, false},
+      {"", true, false},
+  };
+  for (const bool isVendors : {false, true}) {
+    endpoints = Endpoints({.vendorBase = "http://vendor.example",
+                           .storeHost = {},
+                           .publicKey = {},
+                           .vendorSiteName = {},
+                           .bridgeIsVendors = isVendors});
+    auto& page = open();
+    for (const auto& row : rows) {
+      page.startPage(row.origin);
+      EXPECT_EQ(page.call("ready").has_value(), isVendors ? row.mayAsVendors : row.mayInGeneral)
+          << row.origin << (isVendors ? " as configured for the vendor's" : "");
+    }
+  }
+}
+
 // One letter a step: l(oad of the page), r(eady), a(bsent list), e(mpty list), f(ull list),
 // t(urn of the main queue), c(lose of the web view).
 TEST_F(WelcomeTest, HandsTheListOverOnce) {
