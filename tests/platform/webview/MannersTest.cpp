@@ -1,0 +1,106 @@
+// What a page of the maker's is refused, that one in a browser is not.
+
+#include "WebViewFixture.h"
+
+namespace wrenvale::platform {
+namespace {
+
+class MannersTest : public WebViewTest {
+protected:
+  QWidget& view() { return *widget()->findChild<QWidget*>("webView")->focusProxy(); }
+
+  /// Has the window show a page, until there is a frame of it.
+  void show(const std::string& body) {
+    site_.page("/", "<!DOCTYPE html><body style='margin:0;font:40px monospace'>" + body +
+                        "<script>let releases = 0; onmouseup = () => ++releases;"
+                        "var released = () => Recommender.log(releases);"
+                        "onload = () => requestAnimationFrame(() => requestAnimationFrame("
+                        "() => setTimeout(() => Recommender.done(), 50)))</script>");
+    load("/");
+    window_->makeKeyAndOrderFront();
+    ASSERT_TRUE(waitFor("done"));
+  }
+  void drag(QPoint from, QPoint to) {
+    QTest::mousePress(&view(), Qt::LeftButton, {}, from);
+    for (int step = 1; step <= 5; ++step)
+      QTest::mouseMove(&view(), from + (to - from) * step / 5);
+    QTest::mouseRelease(&view(), Qt::LeftButton, {}, to);
+  }
+  /// What the user does reaches the page in its own time.
+  bool becomes(const char* function, const std::string& answer) {
+    return waitUntil([&] { return ask(function) == answer; }, std::chrono::seconds(5));
+  }
+  std::string ask(const char* function) {
+    delegate_.calls.clear();
+    window_->callWebScriptMethod(function, {});
+    EXPECT_TRUE(waitUntil([&] { return !told().empty(); }));
+    return told().empty() ? "" : told().front();
+  }
+};
+
+TEST_F(MannersTest, RequestsAreRefused) {
+  const struct {
+    const char* request;
+    const char* result;
+  } rows[] = {
+      {"Notification.requestPermission()", "denied"},
+      {"new Promise((yes, no) => navigator.geolocation.getCurrentPosition(yes, e => no(e.code)))",
+       "1"},
+      {"navigator.mediaDevices.getUserMedia({audio: true})", "NotAllowedError|NotFoundError"},
+      {"navigator.mediaDevices.getDisplayMedia({video: true})",
+       "NotAllowedError|InvalidStateError|NotFoundError"},
+      {"document.body.requestFullscreen()", "TypeError"},
+      {"navigator.clipboard.readText()", "NotAllowedError"},
+      {"document.execCommand('paste')", "false"},
+      {"navigator.registerProtocolHandler('web+x', '/?%s')", "undefined"},
+      {"window.showOpenFilePicker()", "SecurityError|TypeError"},
+      {"fetch('file:///etc/hostname')", "TypeError"},
+      {"new Promise((yes, no) => { const i = new Image; i.onload = () => yes('loaded');"
+       " i.onerror = () => no('no image'); i.src = 'file:///usr/share/pixmaps/x.png' })",
+       "no image"},
+      {"!!document.createElement('canvas').getContext('webgl')", "false"},
+      {"navigator.serviceWorker.register('/worker.js')", "SecurityError|TypeError"},
+  };
+  for (const auto& row : rows) {
+    site_.page(
+        "/",
+        "<!DOCTYPE html><body><script>(async () => " + std::string(row.request) +
+            ")().then(v => '' + v, e => e.name || '' + e).then(v => Recommender.log(v))</script>");
+    load("/");
+    EXPECT_TRUE(waitUntil([&] { return !told().empty(); }, std::chrono::seconds(5))) << row.request;
+    EXPECT_THAT(told(), testing::ElementsAre(testing::MatchesRegex(row.result))) << row.request;
+  }
+}
+
+TEST_F(MannersTest, OnlyWhatIsTypedCanBeSelected) {
+  show("Text to select<br><input id=field value='a field' "
+       "style='font:inherit'>"
+       "<script>var text = () => Recommender.log('' + getSelection());"
+       "const field = document.getElementById('field'); var typed = () => "
+       "Recommender.log(field.value.slice(field.selectionStart, field.selectionEnd))</script>");
+  drag({10, 20}, {300, 20});
+  EXPECT_TRUE(becomes("released", "1"));
+  EXPECT_EQ(ask("text"), "");
+  drag({6, 75}, {450, 75});
+  EXPECT_TRUE(becomes("typed", "a field"));
+  QTest::keyClick(&view(), 'x');
+  QTest::keyClick(&view(), Qt::Key_A, Qt::ControlModifier);
+  EXPECT_TRUE(becomes("typed", "x"));
+}
+
+TEST_F(MannersTest, NothingIsDraggedAndThereIsNoMenu) {
+  show("<a href='/linked'>A link to be dragged</a>"
+       "<script>let drags = 0; ondragstart = ondragover = ondrop = () => ++drags;"
+       "var count = () => Recommender.log(drags)</script>");
+  drag({10, 20}, {300, 200});
+  QContextMenuEvent menu(QContextMenuEvent::Mouse, {10, 20}, view().mapToGlobal(QPoint(10, 20)));
+  QTest::mouseClick(&view(), Qt::RightButton, {}, {10, 20});
+  QCoreApplication::sendEvent(&view(), &menu);
+  EXPECT_TRUE(becomes("released", "2"));
+  EXPECT_EQ(ask("count"), "0");
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+  EXPECT_FALSE(widget()->findChild<QWidget*>("webView")->acceptDrops());
+}
+
+} // namespace
+} // namespace wrenvale::platform
