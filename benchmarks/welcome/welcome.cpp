@@ -1,0 +1,165 @@
+// What the welcome window costs: from triggerWelcomeWindow() to the page's showWindow(), beside a
+// program that is linked to the web engine and loads the same page; a call of the page's; the
+// memory of a host that opened the window again and again; and what is left when the host has
+// ended. The programs are started in turns, the server is on the loopback.
+//
+// usage: benchmark-welcome [pairs]   (default 15)
+//
+// Exit status 1 when something cannot be measured, or when processes or files are left.
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <mutex>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include <unistd.h>
+
+#include "benchmarks/welcome/Program.h"
+#include "tests/acceptance/VendorServer.h"
+
+namespace {
+
+using wrenvale::benchmark::Ended;
+using wrenvale::benchmark::run;
+
+// In the framework's window the page also times its calls, and reports to the server.
+constexpr const char* kPage = R"(<!DOCTYPE html>
+<html lang="en"><meta charset="utf-8"><title>loading</title>
+<style>body { font: 16px sans-serif; columns: 2 } h2 { color: rebeccapurple }</style>
+<body><h1>Welcome</h1>
+<script>
+  for (let i = 0; i < 60; ++i) {
+    const part = document.createElement("section");
+    part.innerHTML = `<h2>Part ${i}</h2><p>${"What is new in this version. ".repeat(12)}</p>`;
+    document.body.append(part);
+  }
+  const host = window.Recommender;
+  if (host) {
+    host.ready();
+    host.showWindow();
+    setTimeout(() => {
+      const times = [];
+      for (let i = 0; i < 2000; ++i) {
+        const start = performance.now();
+        host.bundleVersion();
+        times.push(performance.now() - start);
+      }
+      times.sort((a, b) => a - b);
+      fetch("/report?" + times[1000] + "&" + times[1980]);
+    }, 200);
+  } else {
+    document.title = "shown";
+  }
+</script>)";
+
+struct Report {
+  std::mutex mutex;
+  std::string text;
+};
+
+double median(std::vector<double> values) {
+  std::sort(values.begin(), values.end());
+  return values.empty() ? 0 : values[values.size() / 2];
+}
+
+// The numbers of the line that begins with these words.
+std::vector<double> numbersAfter(const std::string& words, const std::string& output) {
+  std::vector<double> numbers;
+  const auto at = output.find(words + " ");
+  if (at == std::string::npos) return numbers;
+  std::istringstream line(output.substr(at + words.size(), output.find('\n', at) - at));
+  for (double number; line >> number;)
+    numbers.push_back(number);
+  return numbers;
+}
+
+[[noreturn]] void giveUp(const char* what) {
+  std::fprintf(stderr, "benchmark-welcome: %s\n", what);
+  std::exit(1);
+}
+
+// Everything a program leaves is a fault, whatever it was run for.
+Ended runCleanly(const std::string& program, const std::string& arguments) {
+  auto ended = run(program, arguments);
+  if (!ended.well) giveUp("a program did not end well; is a web engine there, and may it start?");
+  for (const auto& file : ended.files)
+    std::fprintf(stderr, "left behind: %s\n", file.c_str());
+  if (ended.leftProcesses) giveUp("a process is left");
+  if (!ended.files.empty()) giveUp("files are left");
+  return ended;
+}
+
+struct Times {
+  std::vector<double> asked;   ///< milliseconds from asking to showing
+  std::vector<double> started; ///< from the start of the process
+
+  void add(const Ended& ended) {
+    const auto shown = numbersAfter("shown", ended.output);
+    if (shown.size() != 2) giveUp("a page was not shown");
+    asked.push_back(shown[0]);
+    started.push_back(shown[1]);
+  }
+};
+
+void compare(int pairs) {
+  Times framework, bare;
+  for (int i = 0; i < pairs; ++i) {
+    bare.add(runCleanly(BARE_PROGRAM, "http://127.0.0.1:" + std::to_string(VENDOR_PORT) + "/page"));
+    framework.add(runCleanly(FRAMEWORK_HOST, "once"));
+  }
+  const auto print = [](const char* what, double ours, double others) {
+    std::printf("%-34s framework %7.1f ms, bare engine %7.1f ms: %.2f times\n", what, ours, others,
+                ours / others);
+  };
+  // The bare program has loaded the engine's libraries before it can ask for anything; the
+  // framework loads them then.
+  print("asked to shown (at most 1.25)", median(framework.asked), median(bare.asked));
+  print("start of the process to shown", median(framework.started), median(bare.started));
+}
+
+void timeCalls(Report& report) {
+  runCleanly(FRAMEWORK_HOST, "stay");
+  const std::lock_guard lock(report.mutex);
+  double half = 0, most = 0;
+  if (std::sscanf(report.text.c_str(), "%lf&%lf", &half, &most) != 2)
+    giveUp("the page told no times");
+  std::printf("a call of the page's: %.3f ms in the median (at most 0.5), %.3f ms in 99 of 100\n",
+              half, most);
+}
+
+void watchMemory() {
+  const auto ended = runCleanly(FRAMEWORK_HOST, "reopen");
+  const auto before = numbersAfter("memory before", ended.output);
+  const auto first = numbersAfter("memory first", ended.output);
+  const auto last = numbersAfter("memory last", ended.output);
+  if (before.empty() || first.empty() || last.empty()) giveUp("the host told no memory");
+  std::printf("memory without the engine's code: before %.1f MiB, after one window %+.1f, after "
+              "twenty more %+.1f (at most 10)\n",
+              before[0], first[0] - before[0], last[0] - first[0]);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  const int pairs = argc > 1 ? std::max(1, std::atoi(argv[1])) : 15;
+  if (geteuid() == 0) setenv("QTWEBENGINE_DISABLE_SANDBOX", "1", 0);
+  Report report;
+  const wrenvale::tests::VendorServer server([&report](const auto& request, auto& response) {
+    if (request.path == "/report") {
+      const std::lock_guard lock(report.mutex);
+      report.text = request.target.substr(request.target.find('?') + 1);
+    } else if (request.path.ends_with(".json")) {
+      response.set_content("[]", "application/json");
+    } else {
+      response.set_content(kPage, "text/html");
+    }
+  });
+  compare(pairs);
+  timeCalls(report);
+  watchMemory();
+  std::printf("no process and no file was left by any of %d programs\n", 2 * pairs + 2);
+  return 0;
+}
