@@ -90,15 +90,14 @@ TEST_F(NavigationTest, IsAskedAboutWithItsReason) {
 
 TEST_F(NavigationTest, IsAskedAboutThePastToo) {
   site_.page("/", "<script>onload = () => setTimeout(() => location = '/second')</script>");
-  site_.page("/second", "<script>onload = () => { history.back(); history.go(0);"
+  site_.page("/second", "<script>onload = () => { history.back();"
                         " setTimeout(() => Recommender.done(), 150) }</script>");
   delegate_.onDecide = [](const NavigationAction& action) {
     return action.type == NavigationType::kOther ? PolicyDecision::kUse : PolicyDecision::kIgnore;
   };
   load("/");
   ASSERT_TRUE(waitFor("done"));
-  EXPECT_THAT(asked(),
-              testing::UnorderedElementsAre("go 5 /", "go 5 /second", "go 2 /", "go 3 /second"));
+  EXPECT_THAT(asked(), testing::ElementsAre("go 5 /", "go 5 /second", "go 2 /"));
 }
 
 // As a person clicks: on the widget that has the page, wherever in it the pointer is.
