@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QIcon>
+#include <QLabel>
 #include <QPushButton>
 
 namespace wrenvale::platform {
@@ -23,6 +24,9 @@ AlertBox::AlertBox(const Alert& alert)
   setTextFormat(Qt::PlainText);
   setText(QString::fromStdString(alert.messageText));
   setInformativeText(QString::fromStdString(alert.informativeText));
+  // setTextFormat() is about the other text only.
+  if (auto* informative = findChild<QLabel*>("qt_msgbox_informativelabel"))
+    informative->setTextFormat(Qt::PlainText);
   if (const QIcon icon = QApplication::windowIcon(); !icon.isNull())
     setIconPixmap(icon.pixmap(QSize(kIconSize, kIconSize), devicePixelRatioF()));
   setAttribute(Qt::WA_QuitOnClose, false);

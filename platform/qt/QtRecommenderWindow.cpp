@@ -67,6 +67,10 @@ void QtRecommenderWindow::Session::makeWidget() {
             self->checkLater();
           },
   });
+  // A window of an application object that is gone is of no use in another one's time.
+  QObject::connect(qApp, &QObject::destroyed, [weak = weak_from_this()] {
+    if (const auto session = weak.lock()) session->widget_ = nullptr;
+  });
 }
 
 void QtRecommenderWindow::Session::loadLater(std::string_view url,
@@ -96,7 +100,8 @@ void QtRecommenderWindow::Session::closeWebView() {
 }
 
 void QtRecommenderWindow::Session::show() {
-  if (!widget_ || !delegate_) return;
+  if (!widget_) return close();
+  if (!delegate_) return;
   shown_ = true;
   widget_->bringToFront();
   for (auto& [alert, handler] : std::exchange(waiting_, {}))

@@ -12,23 +12,31 @@
     return null;
   };
 
-  let clicked = null;
+  let clicked = null, click = null, latest = null;
   const onClick = (event) => {
     const link = linkOf(event);
     if (!link) return;
     clicked = typeof link.href === "string" ? link.href : new URL(link.href.baseVal, document.baseURI).href;
-    setTimeout(() => { clicked = null; });
+    latest = clicked;
+    click = event;
+    setTimeout(() => { clicked = click = null; });
     remark("link", clicked);
   };
   window.addEventListener("click", onClick, true);
   window.addEventListener("auxclick", onClick, true);
+
+  // A link leads somewhere once its click has been to everyone and nobody prevented that. Before or
+  // later, a script goes there.
+  const isOver = () => click && click.eventPhase === Event.NONE && !click.defaultPrevented;
 
   if (window.navigation) {
     navigation.addEventListener("navigate", (event) => {
       const url = event.destination.url;
       if (event.navigationType === "reload" || event.navigationType === "traverse")
         remark(event.navigationType, url);
-      if (!event.hashChange || url !== clicked) return;
+      else if (url === latest && !isOver())
+        remark("script", url);
+      if (!event.hashChange || url !== clicked || !isOver()) return;
       event.preventDefault(); // the engine would not ask
       remark("fragment", url);
     });

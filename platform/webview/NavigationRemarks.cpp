@@ -16,6 +16,7 @@ constexpr qint64 kLifetime = 1000; // milliseconds
 NavigationType typeNamed(QStringView word) {
   if (word == QLatin1String("reload")) return NavigationType::kReload;
   if (word == QLatin1String("traverse")) return NavigationType::kBackForward;
+  if (word == QLatin1String("script")) return NavigationType::kOther;
   return NavigationType::kLinkClicked;
 }
 

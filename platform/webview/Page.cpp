@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include <QAuthenticator>
 #include <QColor>
 #include <QCoreApplication>
 #include <QWebEngineFileSystemAccessRequest>
@@ -126,6 +127,9 @@ void Page::refuseRequests() {
           [](QWebEngineRegisterProtocolHandlerRequest request) { request.reject(); });
   connect(this, &QWebEnginePage::fileSystemAccessRequested, this,
           [](QWebEngineFileSystemAccessRequest request) { request.reject(); });
+  // Unanswered, the engine would try again and again without a name.
+  connect(this, &QWebEnginePage::authenticationRequired, this,
+          [](const QUrl&, QAuthenticator* answer) { *answer = QAuthenticator(); });
 }
 
 void Page::insertScripts() {

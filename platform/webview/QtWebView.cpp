@@ -1,5 +1,8 @@
 #include "platform/webview/QtWebView.h"
 
+#include <QWebEngineUrlRequestInfo>
+#include <QWebEngineUrlRequestInterceptor>
+
 #include "platform/webview/EngineEnd.h"
 
 namespace wrenvale::platform {
@@ -18,11 +21,25 @@ protected:
   }
 };
 
+// Keeps pages from what a host carries in its own resources. The engine refuses files by itself.
+class OnlyTheWeb final : public QWebEngineUrlRequestInterceptor {
+public:
+  using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
+
+  void interceptRequest(QWebEngineUrlRequestInfo& info) override {
+    const QString scheme = info.requestUrl().scheme();
+    for (const char* web : {"http", "https", "ws", "wss", "data", "blob", "about"})
+      if (scheme == QLatin1String(web)) return;
+    info.block(true);
+  }
+};
+
 QWebEngineProfile* makeProfile() {
   auto* profile = new QWebEngineProfile; // without a name it is off the record
   profile->setHttpCacheType(QWebEngineProfile::NoCache);
   profile->setPersistentCookiesPolicy(QWebEngineProfile::NoPersistentCookies);
   profile->setSpellCheckEnabled(false);
+  profile->setUrlRequestInterceptor(new OnlyTheWeb(profile));
   return profile;
 }
 

@@ -7,6 +7,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QLabel>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
@@ -154,6 +155,10 @@ TEST_F(RecommenderWindowTest, AsksInSheets) {
   ASSERT_TRUE(sheet());
   EXPECT_EQ(sheet()->textFormat(), Qt::PlainText);
   EXPECT_EQ(sheet()->text() + "/" + sheet()->informativeText(), "Thank <b>you</b>/Try it");
+  for (const auto* label : sheet()->findChildren<QLabel*>())
+    if (!label->text().isEmpty()) {
+      EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->objectName().toStdString();
+    }
   EXPECT_EQ(sheet()->windowModality(), Qt::WindowModal);
   press("A&&B");
   window_->beginSheet(alert, answered);
