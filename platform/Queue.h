@@ -16,7 +16,8 @@ public:
   virtual ~Queue() = default;
 
   /// Runs `task` later, never within this call. An exception that the task throws is dropped; a
-  /// task that has not begun when the process ends is dropped too.
+  /// task that has not begun when the process ends is dropped too, and so is one that comes while a
+  /// thousand are waiting.
   virtual void async(Task task) = 0;
 };
 
@@ -27,7 +28,7 @@ public:
   /// Tasks run on the main thread, one at a time, in order, once the host's event loop runs.
   virtual Queue& mainQueue() = 0;
 
-  /// Tasks run at once, each on a thread of its own choosing, in no order.
+  /// Tasks run in the background, several at the same time, in no order.
   virtual Queue& globalQueue() = 0;
 
   /// A new queue whose tasks run in the background, one at a time, in order. No thread exists

@@ -68,4 +68,9 @@ void BackgroundThreads::end(std::chrono::milliseconds patience) {
   finished_.wait_for(lock, patience, [this] { return running_ == 0; });
 }
 
+bool BackgroundThreads::isEnding() const {
+  const std::lock_guard lock(mutex_);
+  return ending_;
+}
+
 } // namespace wrenvale::platform

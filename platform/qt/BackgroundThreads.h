@@ -21,12 +21,13 @@ public:
 
   /// From now on nothing new begins. Waits for what is under way, `patience` at the most.
   void end(std::chrono::milliseconds patience);
+  bool isEnding() const;
 
 private:
   bool begin();
   void finish();
 
-  std::mutex mutex_;
+  mutable std::mutex mutex_;
   std::condition_variable finished_;
   int running_ = 0;
   bool ending_ = false;

@@ -5,6 +5,7 @@
 
 #include "platform/Queue.h"
 #include "platform/URLLoading.h"
+#include "platform/qt/BackgroundQueue.h"
 #include "platform/qt/BackgroundThreads.h"
 #include "platform/qt/MainQueue.h"
 
@@ -22,26 +23,21 @@ public:
   Queue& globalQueue() override { return globalQueue_; }
   std::unique_ptr<Queue> makeSerialQueue() override;
 
+  /// What the background queues run on.
+  BackgroundThreads& threads() { return threads_; }
+
   /// The host's event loop runs from now on. Main thread only.
   void start();
   /// The process is ending. More than one call does no harm.
   void end();
 
 private:
-  class GlobalQueue final : public Queue {
-  public:
-    explicit GlobalQueue(BackgroundThreads& threads)
-        : threads_(threads) {}
-    void async(Task task) override { threads_.run(std::move(task)); }
-
-  private:
-    BackgroundThreads& threads_;
-  };
+  static constexpr int kGlobalWidth = 16;
 
   URLLoading& urlLoading_;
   BackgroundThreads threads_;
   MainQueue mainQueue_;
-  GlobalQueue globalQueue_{threads_};
+  BackgroundQueue globalQueue_{threads_, kGlobalWidth};
 };
 
 } // namespace wrenvale::platform

@@ -54,7 +54,8 @@ protected:
     return nullptr;
   }
 
-  platform::QtRecommenderWindows windows{WRENVALE_WEBVIEW_MODULE};
+  platform::BackgroundThreads& threads = *new platform::BackgroundThreads; // as long as its threads
+  platform::QtRecommenderWindows windows{WRENVALE_WEBVIEW_MODULE, threads};
   platform::Platform real;
   platform::Site site;
   std::unique_ptr<Endpoints> here;

@@ -182,7 +182,8 @@ protected:
 
   /// One for the process, as in a host: the engine starts once.
   static QtRecommenderWindows& windows() {
-    static auto& windows = *new QtRecommenderWindows(WRENVALE_WEBVIEW_MODULE);
+    static auto& threads = *new BackgroundThreads;
+    static auto& windows = *new QtRecommenderWindows(WRENVALE_WEBVIEW_MODULE, threads);
     return windows;
   }
   static QWidget* widget() {

@@ -1,0 +1,36 @@
+// A queue whose tasks run on background threads, a given number of them at once.
+
+#ifndef WRENVALE_PLATFORM_QT_BACKGROUNDQUEUE_H
+#define WRENVALE_PLATFORM_QT_BACKGROUNDQUEUE_H
+
+#include <memory>
+
+#include "platform/Queue.h"
+#include "platform/qt/BackgroundThreads.h"
+
+namespace wrenvale::platform {
+
+/// Begins its tasks in the order in which they came. Keeps its threads only while it has tasks.
+class BackgroundQueue final : public Queue {
+public:
+  /// More are dropped, as nobody means so many: a page's script that never stops, say, would fill
+  /// the memory of its host.
+  static constexpr std::size_t kMostWaiting = 1000;
+
+  /// `width`: how many tasks may run at the same time. `threads` outlive the queue, which its tasks
+  /// may outlive.
+  BackgroundQueue(BackgroundThreads& threads, int width);
+
+  void async(Task task) override;
+
+private:
+  struct State;
+
+  static void drain(State& state);
+
+  const std::shared_ptr<State> state_; // shared with the threads
+};
+
+} // namespace wrenvale::platform
+
+#endif
