@@ -25,6 +25,33 @@
   window.addEventListener("click", onClick, true);
   window.addEventListener("auxclick", onClick, true);
 
+  // A form's data is put together just before it is sent, by a person or by submit(). One that opens
+  // a window looks like a link otherwise.
+  let submission = null;
+  const onSubmit = (event) => {
+    submission = { form: event.target, event };
+    setTimeout(() => { submission = null; });
+  };
+  const submitterOf = (form) => // none while the event is on its way: submit() has none
+    submission && submission.form === form && submission.event.eventPhase === Event.NONE
+      ? submission.event.submitter : null;
+  const onFormData = (event) => {
+    // A field may go by the name of any property of the form.
+    const read = (name, of) => of && Element.prototype.getAttribute.call(of, name);
+    const action = read("formaction", submitterOf(event.target)) ?? read("action", event.target);
+    remark("form", new URL(action && action.trim() || location.href, document.baseURI).href);
+    setTimeout(() => remark("form", "")); // sent by then, or only looked at
+  };
+  const watchForms = (root) => {
+    root.addEventListener("submit", onSubmit, true);
+    root.addEventListener("formdata", onFormData, true);
+  };
+  watchForms(window);
+  for (const kind of ["click", "keydown"]) // what is in a shadow tree does not tell beyond it
+    window.addEventListener(kind, (event) => {
+      event.composedPath().filter((node) => node instanceof ShadowRoot).forEach(watchForms);
+    }, true);
+
   // A link leads somewhere once its click has been to everyone and nobody prevented that. Before or
   // later, a script goes there.
   const isOver = () => click && click.eventPhase === Event.NONE && !click.defaultPrevented;

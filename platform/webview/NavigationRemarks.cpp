@@ -20,6 +20,11 @@ NavigationType typeNamed(QStringView word) {
   return NavigationType::kLinkClicked;
 }
 
+// Forms that get something have their data in the query.
+QUrl withoutData(const QUrl& url) {
+  return url.adjusted(QUrl::RemoveQuery);
+}
+
 } // namespace
 
 QString NavigationRemarks::source() const {
@@ -36,6 +41,12 @@ std::optional<QUrl> NavigationRemarks::note(const QString& consoleMessage) {
   const auto word = remark.left(space);
   const QUrl url = QUrl::fromEncoded(remark.mid(space + 1).toUtf8());
   if (word == QLatin1String("fragment")) return url;
+  if (word == QLatin1String("form")) {
+    form_ = withoutData(url);
+    formAge_.start();
+    return std::nullopt;
+  }
+  form_.clear();
   type_ = typeNamed(word);
   url_ = url;
   age_.start();
@@ -48,6 +59,18 @@ bool NavigationRemarks::isAbout(const QUrl& url) const {
 
 bool NavigationRemarks::isClickedLink(const QUrl& url) {
   return isAbout(url) && type_ == NavigationType::kLinkClicked;
+}
+
+// A form is sent once for a remark; what goes to the same place later is something else.
+bool NavigationRemarks::takeForm(const QUrl& url) {
+  if (form_.isEmpty() || formAge_.hasExpired(kLifetime) || form_ != withoutData(url)) return false;
+  form_.clear();
+  return true;
+}
+
+NavigationType NavigationRemarks::typeOfNewWindow(const QUrl& url, bool isUsers) {
+  if (takeForm(url)) return NavigationType::kFormSubmitted;
+  return isUsers || isClickedLink(url) ? NavigationType::kLinkClicked : NavigationType::kOther;
 }
 
 NavigationType NavigationRemarks::typeOf(const QUrl& url, QWebEnginePage::NavigationType engines) {

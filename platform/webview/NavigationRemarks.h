@@ -28,16 +28,22 @@ public:
 
   /// The type of a navigation that begins.
   NavigationType typeOf(const QUrl& url, QWebEnginePage::NavigationType engines);
+  /// The type of a navigation that wants a window of its own, of which the engine tells only
+  /// whether a person asked for it.
+  NavigationType typeOfNewWindow(const QUrl& url, bool isUsers);
   /// Whether a link to this address has just been clicked.
   bool isClickedLink(const QUrl& url);
 
 private:
   bool isAbout(const QUrl& url) const;
+  bool takeForm(const QUrl& url);
 
   const QString secret_ = makeSecret();
   NavigationType type_ = NavigationType::kOther;
   QUrl url_;
   QElapsedTimer age_;
+  QUrl form_; // where it leads, its data left out; empty when no form is on its way
+  QElapsedTimer formAge_;
 };
 
 } // namespace wrenvale::platform

@@ -230,12 +230,11 @@ void Page::onLeaving(const QUrl& url) {
 void Page::onNewWindow(const QWebEngineNewWindowRequest& request) {
   if (!delegate_) return;
   const Call call(*this);
-  const bool isUsers = request.isUserInitiated() || remarks_.isClickedLink(request.requestedUrl());
-  delegate_->decidePolicyForNewWindowAction({.url = text(request.requestedUrl()),
-                                             .mainDocumentURL = text(request.requestedUrl()),
-                                             .type = isUsers
-                                                         ? platform::NavigationType::kLinkClicked
-                                                         : platform::NavigationType::kOther});
+  const QUrl url = request.requestedUrl();
+  delegate_->decidePolicyForNewWindowAction(
+      {.url = text(url),
+       .mainDocumentURL = text(url),
+       .type = remarks_.typeOfNewWindow(url, request.isUserInitiated())});
 }
 
 void Page::fail(const QUrl& url, const char* reason) {

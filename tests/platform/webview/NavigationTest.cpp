@@ -112,9 +112,29 @@ TEST_F(NavigationTest, ClicksOfAPersonLeave) {
       {"<a href='/linked' target=_blank>", Qt::LeftButton, "open 0 /linked"},
       {"<div onclick='window.open(\"/linked\")'>", Qt::LeftButton, "open 0 /linked"},
       {"<div onclick='location = \"/linked\"'>", Qt::LeftButton, "go 5 /linked"},
+      {"<form target=_blank action=/sent><input type=hidden name=a value=b><button>",
+       Qt::LeftButton, "open 1 /sent?a=b"},
+      {"<form target=_blank action=' /sent ' method=post><input type=hidden name=action><button>",
+       Qt::LeftButton, "open 1 /sent"},
+      {"<form target=_blank><button>", Qt::LeftButton, "open 1 /?"},
+      {"<form action=/no><button formtarget=_blank formaction='mailto:a@b.example'>",
+       Qt::LeftButton, "open 1 mailto:a@b.example?"},
+      {"<form target=_blank action=/sent onsubmit='submit(); return false'><button formaction=/no>",
+       Qt::LeftButton, "open 1 /sent?"},
+      {"<form id=form target=_blank action=/sent></form><div onclick='form.submit()'>",
+       Qt::LeftButton, "open 1 /sent?"},
+      {"<form id=form></form><div onclick='form.target = \"w\"; form.requestSubmit()'>",
+       Qt::LeftButton, "open 1 /?"},
+      {"<div id=host></div><script>host.attachShadow({mode: 'open'}).innerHTML = "
+       "`<style>*{font:inherit}</style><form target=_blank action=/sent><button>Link`</script>",
+       Qt::LeftButton, "open 1 /sent?"},
+      {"<form action=/linked onsubmit='new FormData(this); return false' "
+       "onclick='setTimeout(() => window.open(\"/linked\"), 50)'><button>",
+       Qt::LeftButton, "open 0 /linked"},
   };
   for (const auto& row : rows) {
-    site_.page("/", "<!DOCTYPE html><body style='margin:0;font-size:300px'>" +
+    site_.page("/", "<!DOCTYPE html><body style='margin:0;font-size:300px'>"
+                    "<style>button{font:inherit}</style>" +
                         std::string(row.link) +
                         "Link<script>onload = () => requestAnimationFrame(() => "
                         "requestAnimationFrame(() => Recommender.done()))</script>");
