@@ -34,6 +34,8 @@ TEST_F(LoadingTest, APageIsWhateverBegins) {
       {"not found, with a page", scriptPage("404 Not Found"), true},
       {"an error, with a page", scriptPage("500 Internal Server Error"), true},
       {"an error without a word", answerWith("", "500 Internal Server Error"), true},
+      {"for people with a name only",
+       scriptPage("401 Unauthorized", "WWW-Authenticate: Basic realm=\"x\"\r\n"), true},
       {"nothing in it", answerWith("", "200 OK", Site::kHTML), true},
       {"plain text", answerWith("text", "200 OK", "Content-Type: text/plain\r\n"), true},
       {"forever elsewhere", answerWith("", "302 Found", "Location: /page\r\n"), false},
@@ -48,11 +50,15 @@ TEST_F(LoadingTest, APageIsWhateverBegins) {
   };
   for (const auto& row : rows) {
     site_.answer("/page", row.answer);
+    const auto before = site_.heads("/page").size();
     load("/page");
     EXPECT_TRUE(waitUntil([&] { return failures() > 0 || hasBegun(); })) << row.what;
     waitUntil([] { return false; }, std::chrono::milliseconds(50)); // for what else may come
     EXPECT_EQ(failures(), row.isPage ? 0 : 1) << row.what;
     EXPECT_EQ(hasBegun(), row.isPage) << row.what;
+    if (row.isPage) {
+      EXPECT_EQ(site_.heads("/page").size() - before, 1U) << row.what << ", asked for once";
+    }
   }
 }
 

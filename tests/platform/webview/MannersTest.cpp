@@ -1,5 +1,7 @@
 // What a page of the maker's is refused, that one in a browser is not.
 
+#include <QFile>
+
 #include "WebViewFixture.h"
 
 namespace wrenvale::platform {
@@ -38,7 +40,17 @@ protected:
   }
 };
 
+// What the rows below load with. A frame whose page may not be looked at has got one.
+constexpr const char* kLoaders = R"(<!DOCTYPE html><body><script>
+const image = url => new Promise((yes, no) => {
+  const i = new Image; i.onload = () => yes('loaded'); i.onerror = () => no('no image'); i.src = url; });
+const frame = url => new Promise(yes => {
+  const f = document.createElement('iframe'); f.src = url; document.body.append(f);
+  setTimeout(() => yes(f.contentDocument ? f.contentDocument.URL : 'loaded'), 200); });
+</script>)";
+
 TEST_F(MannersTest, RequestsAreRefused) {
+  ASSERT_TRUE(QFile::exists(":/qt-project.org/qmessagebox/images/qtlogo-64.png"));
   const struct {
     const char* request;
     const char* result;
@@ -55,16 +67,16 @@ TEST_F(MannersTest, RequestsAreRefused) {
       {"navigator.registerProtocolHandler('web+x', '/?%s')", "undefined"},
       {"window.showOpenFilePicker()", "SecurityError|TypeError"},
       {"fetch('file:///etc/hostname')", "TypeError"},
-      {"new Promise((yes, no) => { const i = new Image; i.onload = () => yes('loaded');"
-       " i.onerror = () => no('no image'); i.src = 'file:///usr/share/pixmaps/x.png' })",
-       "no image"},
+      {"image('file:///usr/share/pixmaps/x.png')", "no image"},
+      {"image('qrc:/qt-project.org/qmessagebox/images/qtlogo-64.png')", "no image"},
+      {"frame('qrc:/qt-project.org/qmessagebox/images/qtlogo-64.png')", "about:blank"},
       {"!!document.createElement('canvas').getContext('webgl')", "false"},
       {"navigator.serviceWorker.register('/worker.js')", "SecurityError|TypeError"},
   };
   for (const auto& row : rows) {
     site_.page(
         "/",
-        "<!DOCTYPE html><body><script>(async () => " + std::string(row.request) +
+        std::string(kLoaders) + "<script>(async () => " + row.request +
             ")().then(v => '' + v, e => e.name || '' + e).then(v => Recommender.log(v))</script>");
     load("/");
     EXPECT_TRUE(waitUntil([&] { return !told().empty(); }, std::chrono::seconds(5))) << row.request;

@@ -25,6 +25,7 @@ constexpr const char* kPage = R"(<!DOCTYPE html><title>Test</title>
 <a id=inside href="#inside">link</a> <a id=mail href="mailto:a@b.example">link</a>
 <a id=file href="file:///etc/hostname">link</a> <a id=top target=_top href="/linked">link</a>
 <a id=handled href="/linked" onclick="return false">link</a>
+<a id=script href="/linked" onclick="location = href; return false">link</a>
 <form id=form action="/sent"></form><form id=post method=post action="/sent"></form>
 <iframe id=frame name=frame src="/framed"></iframe><iframe id=foreign></iframe>
 <script>const $ = id => document.getElementById(id); const framed = id => $('frame').contentDocument.getElementById(id);
@@ -44,7 +45,14 @@ TEST_F(NavigationTest, IsAskedAboutWithItsReason) {
       {"$('link').click()", {"go 0 /linked"}},
       {"$('inside').click()", {"go 0 /#inside"}},
       {"location.hash = 'inside'", {}},
+      {"$('inside').onclick = () => { location.hash = 'inside'; return false }; "
+       "$('inside').click()",
+       {}},
       {"$('handled').click()", {}},
+      {"$('handled').click(); location = '/linked'", {"go 5 /linked"}},
+      {"$('script').click()", {"go 5 /linked"}},
+      {"$('link').click(); setTimeout(() => location = '/linked', 50)",
+       {"go 0 /linked", "go 5 /linked"}},
       {"$('mail').click()", {"go 0 mailto:a@b.example"}},
       {"location = 'mailto:a@b.example'", {}},
       {"$('file').click()", {}},
