@@ -26,7 +26,8 @@ public:
   virtual ~Workspace() = default;
 
   /// Opens an address in the application that handles its scheme. False when it is no address, its
-  /// scheme would run or read something local, or nothing handles it.
+  /// scheme would run or read something local, nothing handles it, or addresses are being opened
+  /// faster than a person would; nothing is opened then.
   virtual bool openURL(std::string_view url) = 0;
 };
 

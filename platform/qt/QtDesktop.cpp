@@ -38,7 +38,8 @@ std::string QtLocalization::localizedStringForKey(std::string_view key,
 bool QtWorkspace::openURL(std::string_view url) {
   if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) return false;
   const QUrl address(fromUTF8(url), QUrl::StrictMode);
-  return mayOpen(address) && QDesktopServices::openUrl(address);
+  return mayOpen(address) && limit_.admits(std::chrono::steady_clock::now()) &&
+         QDesktopServices::openUrl(address);
 }
 
 } // namespace wrenvale::platform

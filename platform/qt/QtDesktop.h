@@ -5,6 +5,7 @@
 
 #include "platform/MainBundle.h"
 #include "platform/Workspace.h"
+#include "platform/qt/OpeningLimit.h"
 
 namespace wrenvale::platform {
 
@@ -17,10 +18,14 @@ public:
 };
 
 /// Opens http, https, mailto and the store's addresses; every other scheme is refused, since
-/// addresses come from documents and pages and must not run or read anything local.
+/// addresses come from documents and pages and must not run or read anything local. More than five
+/// within two seconds are refused as well.
 class QtWorkspace : public Workspace {
 public:
   bool openURL(std::string_view url) override;
+
+private:
+  OpeningLimit limit_;
 };
 
 } // namespace wrenvale::platform
