@@ -28,7 +28,7 @@ const Platform& makePlatform() {
                        queues,
                        *new QtRateWindows,
                        *new QtAlerts,
-                       *new QtRecommenderWindows(modulePath(kWebViewModuleFile), queues.threads()),
+                       *new QtRecommenderWindows(modulePath(kWebViewModuleFile)),
                        *new QtMenus};
 }
 

@@ -23,9 +23,6 @@ public:
   Queue& globalQueue() override { return globalQueue_; }
   std::unique_ptr<Queue> makeSerialQueue() override;
 
-  /// What the background queues run on.
-  BackgroundThreads& threads() { return threads_; }
-
   /// The host's event loop runs from now on. Main thread only.
   void start();
   /// The process is ending. More than one call does no harm.

@@ -42,7 +42,7 @@ public:
   std::string applicationName;
 
 private:
-  void load(WebViewModule* module, const std::string& url, std::chrono::milliseconds timeout);
+  void load(const std::string& url, std::chrono::milliseconds timeout);
   void raiseSheet(const Alert& alert, std::function<void(int)> handler);
   void checkLater();
   void check();
@@ -75,14 +75,15 @@ void QtRecommenderWindow::Session::makeWidget() {
 
 void QtRecommenderWindow::Session::loadLater(std::string_view url,
                                              std::chrono::milliseconds timeout) {
-  loader_.load([self = shared_from_this(), url = std::string(url), timeout](WebViewModule* module) {
-    self->load(module, url, timeout);
-  });
+  QMetaObject::invokeMethod(
+      qApp,
+      [self = shared_from_this(), url = std::string(url), timeout] { self->load(url, timeout); },
+      Qt::QueuedConnection);
 }
 
-void QtRecommenderWindow::Session::load(WebViewModule* module, const std::string& url,
-                                        std::chrono::milliseconds timeout) {
+void QtRecommenderWindow::Session::load(const std::string& url, std::chrono::milliseconds timeout) {
   if (!mayLoad_ || !widget_) return;
+  auto* module = loader_.module();
   webView_ = module ? module->makeWebView(*this) : nullptr;
   if (!webView_) {
     const auto text = translated(QT_TRANSLATE_NOOP("Wrenvale", "Web pages cannot be shown here."));

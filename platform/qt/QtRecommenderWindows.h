@@ -13,9 +13,9 @@ namespace wrenvale::platform {
 /// Main thread only. A host without a QApplication has no windows.
 class QtRecommenderWindows : public RecommenderWindows {
 public:
-  /// `module`: where the web view's module is, which one of `threads` is to load.
-  QtRecommenderWindows(std::string module, BackgroundThreads& threads)
-      : loader_(std::move(module), threads) {}
+  /// `module`: where the web view's module is.
+  explicit QtRecommenderWindows(std::string module)
+      : loader_(std::move(module)) {}
 
   /// Outlived by this object.
   std::unique_ptr<RecommenderWindow>

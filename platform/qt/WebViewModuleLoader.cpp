@@ -1,12 +1,9 @@
 #include "platform/qt/WebViewModuleLoader.h"
 
-#include <chrono>
-#include <cstdlib>
 #include <filesystem>
 #include <utility>
 
 #include <QCoreApplication>
-#include <QObject>
 #include <QOpenGLContext>
 
 #include "platform/Modules.h"
@@ -37,58 +34,16 @@ void shareContexts() {
   qAddPostRoutine(endSharing);
 }
 
-// The load that the end of the process waits for.
-std::shared_future<WebViewModuleEntry>& underWay() {
-  static auto& entry = *new std::shared_future<WebViewModuleEntry>;
-  return entry;
-}
-
-void awaitLoad() {
-  if (underWay().valid()) underWay().wait();
-}
-
 } // namespace
 
-WebViewModuleLoader::WebViewModuleLoader(std::string path, BackgroundThreads& threads)
-    : path_(std::move(path))
-    , threads_(threads) {}
-
-WebViewModuleLoader::~WebViewModuleLoader() {
-  if (entry_.valid()) entry_.wait();
-}
-
-void WebViewModuleLoader::load(Handler handler) {
-  waiting_.push_back(std::move(handler));
-  if (!entry_.valid()) return begin();
-  if (entry_.wait_for(std::chrono::seconds(0)) == std::future_status::ready) tellLater();
-}
-
-void WebViewModuleLoader::begin() {
-  const auto promise = std::make_shared<std::promise<WebViewModuleEntry>>();
-  underWay() = entry_ = promise->get_future().share();
-  receiver_ = std::make_unique<QObject>();
-  const auto finish = [this, promise](void* entry) {
-    tellLater(); // first, as this object may go with the promise kept
-    promise->set_value(reinterpret_cast<WebViewModuleEntry>(entry));
-  };
+WebViewModule* WebViewModuleLoader::module() {
+  if (std::exchange(wasLookedFor_, true)) return module_;
   std::error_code error;
-  if (!std::filesystem::exists(path_, error)) return finish(nullptr);
+  if (!std::filesystem::exists(path_, error)) return nullptr;
   shareContexts();
-  qAddPostRoutine(awaitLoad);
-  std::atexit(awaitLoad); // a host may exit without the former
-  const auto read = [finish, path = path_] { finish(moduleEntry(path, kWebViewModuleEntry)); };
-  if (!threads_.run(read)) read();
-}
-
-void WebViewModuleLoader::tellLater() {
-  QMetaObject::invokeMethod(
-      receiver_.get(), [this] { tell(); }, Qt::QueuedConnection);
-}
-
-void WebViewModuleLoader::tell() {
-  auto* module = entry_.get() ? entry_.get()() : nullptr;
-  for (const auto& handler : std::exchange(waiting_, {}))
-    handler(module);
+  const auto entry = reinterpret_cast<WebViewModuleEntry>(moduleEntry(path_, kWebViewModuleEntry));
+  if (entry) module_ = entry();
+  return module_;
 }
 
 } // namespace wrenvale::platform

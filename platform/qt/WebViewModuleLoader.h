@@ -3,46 +3,29 @@
 #ifndef WRENVALE_PLATFORM_QT_WEBVIEWMODULELOADER_H
 #define WRENVALE_PLATFORM_QT_WEBVIEWMODULELOADER_H
 
-#include <functional>
-#include <future>
-#include <memory>
 #include <string>
-#include <vector>
 
 #include "platform/WebViewModule.h"
-#include "platform/qt/BackgroundThreads.h"
-
-class QObject;
 
 namespace wrenvale::platform {
 
 /// Main thread only.
 class WebViewModuleLoader {
 public:
-  using Handler = std::function<void(WebViewModule*)>;
-
   /// `path` of the module; an empty one is a missing module.
-  WebViewModuleLoader(std::string path, BackgroundThreads& threads);
-  /// Waits for a load under way, whose handlers are not called any more.
-  ~WebViewModuleLoader();
+  explicit WebViewModuleLoader(std::string path)
+      : path_(std::move(path)) {}
 
-  /// Calls `handler` in a later turn, with the module or, when there is none (not installed,
-  /// damaged, of another version), with null. The first call, for which there is a QApplication,
-  /// has it loaded in the background: the engine is a hundred libraries, which a cold disk takes a
-  /// second for. A process that ends meanwhile waits for that, as it could not unload what is half
-  /// loaded.
-  void load(Handler handler);
+  /// Loads the module on the first call, for which there is a QApplication. That takes a moment,
+  /// which no other thread can be given: a process that exits while it loads libraries destroys what
+  /// they are just making.
+  /// Null without a module (not installed, damaged, of another version). It is looked for once.
+  WebViewModule* module();
 
 private:
-  void begin();
-  void tellLater();
-  void tell();
-
   const std::string path_;
-  BackgroundThreads& threads_;
-  std::shared_future<WebViewModuleEntry> entry_; // valid from the first call on
-  std::unique_ptr<QObject> receiver_;
-  std::vector<Handler> waiting_;
+  bool wasLookedFor_ = false;
+  WebViewModule* module_ = nullptr;
 };
 
 } // namespace wrenvale::platform

@@ -51,7 +51,6 @@ protected:
   ~RecommenderWindowTest() override {
     window_.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    threads_.end(std::chrono::seconds(10));
   }
   static QWidget& widget() {
     for (auto* found : QApplication::topLevelWidgets())
@@ -67,8 +66,7 @@ protected:
   }
 
   Delegate delegate_;
-  BackgroundThreads threads_;
-  QtRecommenderWindows windows_{"", threads_};
+  QtRecommenderWindows windows_{""};
   std::unique_ptr<RecommenderWindow> window_ = windows_.makeRecommenderWindow(delegate_);
 };
 
@@ -79,7 +77,7 @@ TEST_F(RecommenderWindowTest, WithoutAModuleNoPageCanBeFetched) {
                             "ELF and then nothing";
   for (const std::string& path : {std::string(), garbage, garbage + ".missing",
                                   folder.path().toStdString(), std::string("/proc/self/exe")}) {
-    QtRecommenderWindows windows(path, threads_);
+    QtRecommenderWindows windows(path);
     for (const char* url : {"http://first", "http://second"}) {
       delegate_.failures.clear();
       window_ = windows.makeRecommenderWindow(delegate_);

@@ -54,8 +54,7 @@ protected:
     return nullptr;
   }
 
-  platform::BackgroundThreads& threads = *new platform::BackgroundThreads; // as long as its threads
-  platform::QtRecommenderWindows windows{WRENVALE_WEBVIEW_MODULE, threads};
+  platform::QtRecommenderWindows windows{WRENVALE_WEBVIEW_MODULE};
   platform::Platform real;
   platform::Site site;
   std::unique_ptr<Endpoints> here;

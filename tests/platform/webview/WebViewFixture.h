@@ -182,8 +182,7 @@ protected:
 
   /// One for the process, as in a host: the engine starts once.
   static QtRecommenderWindows& windows() {
-    static auto& threads = *new BackgroundThreads;
-    static auto& windows = *new QtRecommenderWindows(WRENVALE_WEBVIEW_MODULE, threads);
+    static auto& windows = *new QtRecommenderWindows(WRENVALE_WEBVIEW_MODULE);
     return windows;
   }
   static QWidget* widget() {
