@@ -9,7 +9,9 @@
 
 namespace wrenvale::platform {
 
-/// Has the alert's texts and buttons. Main thread only; there is a QApplication.
+/// Has the alert's texts and buttons, and keeps to the screen however long the texts are: what is
+/// too long scrolls, and the buttons are always in reach. Main thread only; there is a
+/// QApplication.
 class AlertBox final : public QMessageBox {
 public:
   explicit AlertBox(const Alert& alert);
@@ -19,7 +21,12 @@ public:
   /// The answer of one that is closed without a button.
   static int closedAnswer(const Alert& alert);
 
+protected:
+  void showEvent(QShowEvent* event) override;
+
 private:
+  void addButtons(const Alert& alert);
+
   const int closedAnswer_;
   QPushButton* const default_;
   QPushButton* other_ = nullptr;

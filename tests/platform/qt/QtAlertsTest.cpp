@@ -6,9 +6,13 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScreen>
 #include <QTest>
 #include <QTimer>
+
+#include "platform/qt/AlertBox.h"
 
 namespace wrenvale::platform {
 namespace {
@@ -72,6 +76,39 @@ TEST(QtAlertsTest, ShowsTheTextsAsTheyAre) {
     box()->close();
   });
   QtAlerts().runModal(kTwo);
+}
+
+std::string textOf(std::size_t size, bool spaces) {
+  std::string text(size, 'm');
+  for (std::size_t i = 5; spaces && i < size; i += 6)
+    text[i] = ' ';
+  return text;
+}
+
+TEST(QtAlertsTest, KeepsToTheScreenHoweverLongItsTexts) {
+  const struct {
+    std::size_t message, informative;
+    int scrolled;
+  } rows[] = {{20, 20, 0}, {20, 3'000, 1}, {20, 15'000, 1}, {15'000, 20, 1}, {9'000, 200'000, 2}};
+  for (const auto& row : rows)
+    for (const bool spaces : {true, false}) {
+      SCOPED_TRACE(testing::Message() << row.message << ' ' << row.informative << ' ' << spaces);
+      const Alert alert{.messageText = textOf(row.message, spaces),
+                        .informativeText = textOf(row.informative, spaces),
+                        .defaultButton = "More",
+                        .alternateButton = "Cancel"};
+      AlertBox alertBox(alert);
+      const QRect available = alertBox.screen()->availableGeometry();
+      alertBox.move(available.bottomRight()); // as above a window in the corner
+      alertBox.show();
+      EXPECT_TRUE(available.contains(alertBox.geometry()));
+      for (const auto* button : alertBox.buttons())
+        EXPECT_TRUE(
+            alertBox.rect().contains(QRect(button->mapTo(&alertBox, QPoint()), button->size())));
+      EXPECT_EQ(alertBox.focusWidget(), alertBox.defaultButton());
+      EXPECT_EQ(alertBox.findChildren<QPlainTextEdit*>().size(), row.scrolled);
+      EXPECT_EQ(alertBox.informativeText().toStdString(), alert.informativeText);
+    }
 }
 
 } // namespace
