@@ -17,9 +17,9 @@ public:
       : path_(std::move(path)) {}
 
   /// Loads the module on the first call, for which there is a QApplication. That takes a moment,
-  /// which no other thread can be given: a process that exits while it loads libraries destroys what
-  /// they are just making.
-  /// Null without a module (not installed, damaged, of another version). It is looked for once.
+  /// which no other thread can be given: a process that exits while it loads libraries destroys
+  /// what they are just making. Null without a module (not installed, damaged, of another version).
+  /// It is looked for once.
   WebViewModule* module();
 
 private:
