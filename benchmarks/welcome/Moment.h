@@ -6,7 +6,8 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <cstring>
+#include <fstream>
+#include <string>
 
 namespace wrenvale::benchmark {
 
@@ -24,14 +25,21 @@ inline void printShown(long long asked, const char* started) {
   std::fflush(stdout);
 }
 
-/// Prints the process's memory that is no file's, in MiB: the engine's code is not in it.
+/// Prints the memory that the process holds beside its mapped files, in MiB. The engine's code is
+/// not in it, nor are the parts of its files that were written to as they were loaded.
 inline void printMemory(const char* when) {
-  std::FILE* status = std::fopen("/proc/self/status", "r");
-  char line[256];
-  while (status && std::fgets(line, sizeof line, status))
-    if (std::strncmp(line, "RssAnon:", 8) == 0)
-      std::printf("memory %s %.1f\n", when, std::atof(line + 8) / 1024);
-  if (status) std::fclose(status);
+  std::ifstream mappings("/proc/self/smaps");
+  bool isFile = false;
+  long kibibytes = 0;
+  for (std::string line; std::getline(mappings, line);) {
+    unsigned long inode = 0;
+    long held = 0;
+    if (std::sscanf(line.c_str(), "%*x-%*x %*s %*x %*s %lu", &inode) == 1)
+      isFile = inode != 0;
+    else if (!isFile && std::sscanf(line.c_str(), "Rss: %ld", &held) == 1)
+      kibibytes += held;
+  }
+  std::printf("memory %s %.1f\n", when, static_cast<double>(kibibytes) / 1024);
   std::fflush(stdout);
 }
 
