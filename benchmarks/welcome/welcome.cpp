@@ -141,7 +141,7 @@ void watchMemory() {
   if (before.empty() || first.empty() || last.empty()) giveUp("the host told no memory");
   std::printf(
       "memory beside mapped files: %.1f MiB before, %.1f after one window, %.1f after twenty "
-      "more (at most 9.5 above the first)\n",
+      "more (at most 9.5 more than before)\n",
       before[0], first[0], last[0]);
 }
 
