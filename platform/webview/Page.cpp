@@ -143,14 +143,25 @@ void Page::start(const QUrl& url, std::chrono::milliseconds timeout) {
     QTimer::singleShot(0, this, [this, url] { fail(url, kUnreachable); });
     return;
   }
-  timeout_.start(timeout);
+  timeout_.setInterval(timeout);
+  begin();
   load(url);
   setVisible(true); // or the page would be held back until its window shows it
 }
 
 bool Page::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) {
   if (!delegate_ || !isOfTheWeb(url)) return false;
-  return decide(url, remarks_.typeOf(url, type), isMainFrame) == PolicyDecision::kUse;
+  const bool use = decide(url, remarks_.typeOf(url, type), isMainFrame) == PolicyDecision::kUse;
+  if (use && isMainFrame) begin();
+  return use;
+}
+
+// Redirections share the time that is left. A page that has begun may lead on to another one,
+// before it has shown itself or later, and that has a time of its own.
+void Page::begin() {
+  if (!delegate_ || timeout_.isActive()) return;
+  hasDocument_ = hasFailed_ = false;
+  timeout_.start();
 }
 
 PolicyDecision Page::decide(const QUrl& url, platform::NavigationType type, bool isMainFrame) {
@@ -197,12 +208,10 @@ void Page::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString
 
 void Page::onLoading(const QWebEngineLoadingInfo& info) {
   if (!delegate_) return;
-  if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus) {
-    hasDocument_ = hasFailed_ = false;
+  if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus)
     onLeaving(info.url());
-  } else {
+  else
     onEnd(info);
-  }
 }
 
 // A page has arrived when it has begun: what cuts it off later is no failure, and neither is one
@@ -212,8 +221,8 @@ void Page::onEnd(const QWebEngineLoadingInfo& info) {
   using Info = QWebEngineLoadingInfo;
   const bool arrived = hasDocument_ || info.status() == Info::LoadSucceededStatus ||
                        info.errorDomain() == Info::HttpStatusCodeDomain;
+  timeout_.stop();
   if (arrived) {
-    timeout_.stop();
     hadDocument_ = true;
   } else if (info.status() == Info::LoadFailedStatus || !hadDocument_) {
     fail(info.url(), kUnreachable);

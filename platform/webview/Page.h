@@ -46,6 +46,7 @@ private:
   void settle();
   void refuseRequests();
   void insertScripts();
+  void begin();
   bool greet(const QUrl& origin, QString& result);
   bool perform(const QString& message, QString& result);
   void onLoading(const QWebEngineLoadingInfo& info);
@@ -59,9 +60,9 @@ private:
   ScriptObject scriptObject_;
   NavigationRemarks remarks_;
   QTimer timeout_;
-  bool hasDocument_ = false; // since this load began
+  bool hasDocument_ = false; // since this navigation began
   bool hadDocument_ = false; // ever
-  bool hasFailed_ = false;   // since this load began, and it has been told
+  bool hasFailed_ = false;   // since this navigation began, and it has been told
   int calls_ = 0;            // of the delegate that are under way
 };
 

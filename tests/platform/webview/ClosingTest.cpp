@@ -114,6 +114,30 @@ TEST_F(ClosingTest, OfAPageThatNeverRests) {
   }
 }
 
+// Nor does one whose text, or whose way, has no end.
+TEST_F(ClosingTest, OfAPageThatNeverEnds) {
+  site_.script("/endless", [](auto& client) {
+    client.send(
+        "HTTP/1.1 200 OK\r\nContent-Type: text/html\r\n\r\n<script>Recommender.act()</script>");
+    while (client.send("<p>" + std::string(60'000, 'x')))
+      ;
+  });
+  site_.page("/round", "<script>Recommender.act(); location.replace('/about')</script>");
+  site_.page("/about", "<script>location.replace('/round')</script>");
+  for (const char* path : {"/endless", "/round"}) {
+    load(path);
+    ASSERT_TRUE(waitFor("act")) << path;
+    QElapsedTimer time;
+    time.start();
+    int turns = 0;
+    EXPECT_TRUE(waitUntil([&] { return ++turns > 100; })) << path;
+    EXPECT_LT(time.elapsed(), 4000) << path;
+    EXPECT_FALSE(delegate_.has("fail")) << path;
+    window_.reset();
+    EXPECT_TRUE(hasNoWindow()) << path;
+  }
+}
+
 TEST_F(ClosingTest, TakesItsSheetsAlong) {
   for (const auto& [way, go] : kWays) {
     load("/hang");

@@ -104,6 +104,56 @@ TEST_F(EndToEndTest, OnlyTheMakersPagesReachTheHost) {
   }
 }
 
+// Each page asks its host for what it should not, tells what came of it, and its window still
+// works.
+TEST_F(EndToEndTest, APageMayAskForAnything) {
+  const struct {
+    const char* script;
+    const char* told;
+  } rows[] = {
+      {"tell(typeof R.ready(1, 'x'), R.appName('x', {}), R.bundleVersion(null))",
+       "object,photo%20tool,120"},
+      {"tell(R.subscribe(), R.subscribe(7), R.subscribe({}), R.subscribe(['a@b.de']))",
+       "false,false,false,false"},
+      {"tell(R.checkSelector(), R.checkSelector(true), R.checkSelector('cleanup'))",
+       "false,false,false"},
+      {"tell(R.subscribe('@'.repeat(1e7)), R.subscribe('a'.repeat(1e7) + '@b.de'))", "false,true"},
+      {"try { R.cleanup() } catch (error) { tell(error.name) }", "typeerror"},
+      {"for (const size of [0, -1, 2 ** 31, -(2 ** 31), 2 ** 53, 2 ** 63 - 1024, -(2 ** 63), 1e300,"
+       "NaN, 'x', null]) R['setWidth:height'](size, size); R['setWidth:height'](); tell('sized')",
+       "sized"},
+      {"for (let i = 0; i < 3000; ++i) R.showWindow(), R.beep(), R.subscribe('x'); tell('shown')",
+       "shown"},
+      {"let lists = 0; setRecommendations = () => { ++lists; R.ready() }; R.ready(); R.ready();"
+       "setTimeout(() => { R.ready(); setTimeout(() => tell(lists), 100) }, 100)",
+       "1"},
+      {"setRecommendations = () => { setTimeout(() => tell('thrown')); throw 1 }; R.ready()",
+       "thrown"},
+      {"setRecommendations = 'none'; R.ready(); setTimeout(() => tell('none'), 100)", "none"},
+  };
+  fake.locale.country = "US";
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.script);
+    site.page("/store/newsletter/index_us.html",
+              "<body><script>const R = Recommender, tell = (...told) => fetch('/told?' + told);\n" +
+                  std::string(row.script) + "</script>");
+    open();
+    const auto before = site.heads("/told?" + std::string(row.told)).size();
+    EXPECT_TRUE(
+        turnUntil([&] { return site.heads("/told?" + std::string(row.told)).size() > before; }));
+    controller->javascript_setWidth(500, 300);
+    controller->javascript_showWindow();
+    QWidget* window = top("Recommender");
+    ASSERT_TRUE(window);
+    EXPECT_TRUE(
+        waitUntil([&] { return window->isVisible() && window->size() == QSize(500, 300); }));
+    delegate->finished = 0;
+    window->close();
+    EXPECT_EQ(delegate->finished, 1);
+    EXPECT_TRUE(waitUntil([] { return !top("Recommender") && !top("QMessageBox"); }));
+  }
+}
+
 TEST_F(EndToEndTest, AMissingServerClosesTheHiddenWindow) {
   fake.locale.country = "US";
   site.answer("/store/newsletter/index_us.html", "");

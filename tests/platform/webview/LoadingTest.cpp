@@ -82,6 +82,36 @@ TEST_F(LoadingTest, GivesUpAServerThatDoesNotAnswer) {
   EXPECT_EQ(failures(), 1);
 }
 
+// Wherever the page's scripts lead, as it begins or later.
+TEST_F(LoadingTest, APageMayLeadNowhere) {
+  site_.script("/hang", [](Connection& client) { client.hang(); });
+  site_.answer("/to-hang", answerWith("", "302 Found", "Location: /hang\r\n"));
+  for (const char* page :
+       {"<script>location = '/hang'</script>", "<meta http-equiv=refresh content='0;url=/hang'>",
+        "<script>setTimeout(() => location.replace('/to-hang'), 100)</script>",
+        "<script>location = 'http://127.0.0.1:1/'</script>"}) {
+    site_.page("/", page);
+    load("/", std::chrono::seconds(1));
+    EXPECT_TRUE(waitUntil([&] { return failures() > 0; }, std::chrono::seconds(5))) << page;
+    EXPECT_EQ(failures(), 1) << page;
+  }
+}
+
+// What a frame in the page shows, or does not, is of no weight.
+TEST_F(LoadingTest, FramesMayFail) {
+  site_.answer("/none", "");
+  site_.answer("/nothing", "HTTP/1.1 204 No Content\r\n\r\n");
+  site_.answer("/zip", answerWith("PK", "200 OK", "Content-Type: application/zip\r\n"));
+  site_.script("/hang", [](Connection& client) { client.hang(); });
+  site_.page("/",
+             "<iframe src=/none></iframe><iframe src=/nothing></iframe><iframe src=/zip></iframe>"
+             "<iframe src=/hang></iframe><iframe src='http://127.0.0.1:1/'></iframe>"
+             "<script>setTimeout(() => Recommender.done(), 1300)</script>");
+  load("/", std::chrono::seconds(1));
+  EXPECT_TRUE(waitFor("done"));
+  EXPECT_EQ(failures(), 0);
+}
+
 // A page that has begun is there, however slow the rest of it is.
 TEST_F(LoadingTest, WaitsForAPageThatHasBegun) {
   site_.script("/", [](Connection& client) {
