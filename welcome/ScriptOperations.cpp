@@ -18,6 +18,10 @@ namespace wrenvale {
 
 namespace {
 
+// No key can encrypt as much: what is cut off here is refused by the encryption all the same, and
+// takes no memory while it waits.
+constexpr std::size_t kLongestAddressKept = 10'000;
+
 // Codes are ASCII.
 std::string upperCased(std::string text) {
   const auto upper = [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 32) : c; };
@@ -58,7 +62,8 @@ bool KVXRecommenderWindowController::javascript_subscribe(const Value& address) 
     showInvalidAddress();
     return false;
   }
-  _platform.queues.globalQueue().async([text = *text, &service = _service, &endpoints = _endpoints,
+  _platform.queues.globalQueue().async([text = text->substr(0, kLongestAddressKept),
+                                        &service = _service, &endpoints = _endpoints,
                                         &urlLoading = _platform.urlLoading] {
     welcome::deliverSubscription(text, service, endpoints, urlLoading);
   });

@@ -12,6 +12,9 @@
     return null;
   };
 
+  // A person who holds Alt would have the engine save what the link leads to.
+  const isToSave = (event) => event.isTrusted && event.button === 0 && event.altKey && !event.ctrlKey && !event.shiftKey;
+
   let clicked = null, click = null, latest = null;
   const onClick = (event) => {
     const link = linkOf(event);
@@ -21,6 +24,7 @@
     click = event;
     setTimeout(() => { clicked = click = null; });
     remark("link", clicked);
+    if (isToSave(event)) setTimeout((url) => { if (!event.defaultPrevented) remark("unasked", url); }, 0, clicked);
   };
   window.addEventListener("click", onClick, true);
   window.addEventListener("auxclick", onClick, true);
@@ -56,16 +60,25 @@
   // later, a script goes there.
   const isOver = () => click && click.eventPhase === Event.NONE && !click.defaultPrevented;
 
+  // Links within the page, and those to save, the engine follows without asking.
+  const isUnasked = ({ destination: { url }, downloadRequest, hashChange, userInitiated }) =>
+    downloadRequest == null ? hashChange && (userInitiated || (url === clicked && isOver()))
+                            : /^https?:/.test(url);
+
   if (window.navigation) {
     navigation.addEventListener("navigate", (event) => {
       const url = event.destination.url;
-      if (event.navigationType === "reload" || event.navigationType === "traverse")
+      if (isUnasked(event)) {
+        event.preventDefault();
+        remark("unasked", url);
+      } else if (event.navigationType === "reload" || event.navigationType === "traverse") {
         remark(event.navigationType, url);
-      else if (url === latest && !isOver())
+      } else if (event.userInitiated) { // a click in a closed shadow tree, if it was not seen above
+        latest = url;
+        remark("link", url);
+      } else if (url === latest && !isOver()) {
         remark("script", url);
-      if (!event.hashChange || url !== clicked || !isOver()) return;
-      event.preventDefault(); // the engine would not ask
-      remark("fragment", url);
+      }
     });
   }
 

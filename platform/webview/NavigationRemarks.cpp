@@ -40,7 +40,7 @@ std::optional<QUrl> NavigationRemarks::note(const QString& consoleMessage) {
   const auto space = remark.indexOf(' ');
   const auto word = remark.left(space);
   const QUrl url = QUrl::fromEncoded(remark.mid(space + 1).toUtf8());
-  if (word == QLatin1String("fragment")) return url;
+  if (word == QLatin1String("unasked")) return url;
   if (word == QLatin1String("form")) {
     form_ = withoutData(url);
     formAge_.start();

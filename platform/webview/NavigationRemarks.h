@@ -22,8 +22,8 @@ public:
   /// What makes the remarks, to be run beside each document.
   QString source() const;
 
-  /// Takes note when the message is a remark. Answers the address of a clicked link that leads to
-  /// another place in its page, for which the engine asks nobody.
+  /// Takes note when the message is a remark. Answers the address of a clicked link about which the
+  /// engine asks nobody: one to another place in its page, or one to save.
   std::optional<QUrl> note(const QString& consoleMessage);
 
   /// The type of a navigation that begins.

@@ -202,8 +202,8 @@ bool Page::perform(const QString& message, QString& result) {
 // What pages say on the console is of no interest to the host.
 void Page::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString& message, int,
                                     const QString&) {
-  const auto fragment = remarks_.note(message);
-  if (fragment && delegate_) decide(*fragment, platform::NavigationType::kLinkClicked, true);
+  const auto unasked = remarks_.note(message);
+  if (unasked && delegate_) decide(*unasked, platform::NavigationType::kLinkClicked, true);
 }
 
 void Page::onLoading(const QWebEngineLoadingInfo& info) {

@@ -2,8 +2,12 @@
 
 #include <wrenvale/KVXWrenvale.h>
 
+#include <csignal>
+
+#include <QAbstractButton>
 #include <QMessageBox>
 
+#include "Processes.h"
 #include "WebViewFixture.h"
 #include "tests/welcome/WelcomeFixture.h"
 
@@ -151,6 +155,31 @@ TEST_F(EndToEndTest, APageMayAskForAnything) {
     window->close();
     EXPECT_EQ(delegate->finished, 1);
     EXPECT_TRUE(waitUntil([] { return !top("Recommender") && !top("QMessageBox"); }));
+  }
+}
+
+// Who sees the window is told first.
+TEST_F(EndToEndTest, APageWhoseProcessEndsClosesItsWindow) {
+  fake.locale.country = "US";
+  for (const bool shown : {false, true}) {
+    site.page("/store/newsletter/index_us.html",
+              std::string(shown ? "<script>Recommender.showWindow();" : "<script>") +
+                  "fetch('/begun')</script>");
+    const auto before = site.heads("/begun").size();
+    open();
+    controller->setDisplayAlerts(false);
+    delegate->finished = 0;
+    ASSERT_TRUE(turnUntil([&] { return site.heads("/begun").size() > before; }));
+    ASSERT_EQ(top("Recommender")->isVisible(), shown);
+    for (const auto process : platform::renderers())
+      kill(process, SIGKILL);
+    if (shown) {
+      ASSERT_TRUE(waitUntil([] { return QApplication::activeModalWidget(); }));
+      EXPECT_EQ(delegate->finished, 0);
+      qobject_cast<QMessageBox*>(QApplication::activeModalWidget())->buttons().first()->click();
+    }
+    EXPECT_TRUE(waitUntil([&] { return delegate->finished == 1; })) << shown;
+    EXPECT_TRUE(waitUntil([] { return !top("Recommender"); })) << shown;
   }
 }
 

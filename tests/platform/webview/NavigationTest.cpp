@@ -114,8 +114,13 @@ TEST_F(NavigationTest, ClicksOfAPersonLeave) {
     const char* link;
     Qt::MouseButton button;
     const char* asked;
+    Qt::KeyboardModifiers keys = {};
   } rows[] = {
       {"<a href='/linked'>", Qt::LeftButton, "go 0 /linked"},
+      {"<a href='/linked'>", Qt::LeftButton, "go 0 /linked", Qt::AltModifier},
+      {"<a href='/linked'>", Qt::LeftButton, "open 0 /linked", Qt::ControlModifier},
+      {"<a href='/linked' download>", Qt::LeftButton, "go 0 /linked"},
+      {"<a href='/linked' download target=_blank>", Qt::MiddleButton, "go 0 /linked"},
       {"<a href='/linked'>", Qt::MiddleButton, "open 0 /linked"},
       {"<a href='/linked' target=_blank>", Qt::LeftButton, "open 0 /linked"},
       {"<div onclick='window.open(\"/linked\")'>", Qt::LeftButton, "open 0 /linked"},
@@ -136,6 +141,12 @@ TEST_F(NavigationTest, ClicksOfAPersonLeave) {
       {"<div id=host></div><script>host.attachShadow({mode: 'open'}).innerHTML = "
        "`<style>*{font:inherit}</style><form target=_blank action=/sent><button>Link`</script>",
        Qt::LeftButton, "open 1 /sent?"},
+      {"<div id=host></div><script>host.attachShadow({mode: 'closed'}).innerHTML = "
+       "`<a href=/linked>Link`</script>",
+       Qt::LeftButton, "go 0 /linked"},
+      {"<div id=host></div><script>host.attachShadow({mode: 'closed'}).innerHTML = "
+       "`<a href=#inside>Link`</script>",
+       Qt::LeftButton, "go 0 /#inside"},
       {"<form action=/linked onsubmit='new FormData(this); return false' "
        "onclick='setTimeout(() => window.open(\"/linked\"), 50)'><button>",
        Qt::LeftButton, "open 0 /linked"},
@@ -152,7 +163,7 @@ TEST_F(NavigationTest, ClicksOfAPersonLeave) {
     delegate_.onDecide = [](const NavigationAction&) { return PolicyDecision::kIgnore; };
     auto* view = widget()->findChild<QWidget*>("webView");
     const auto clicked = [&] {
-      QTest::mouseClick(view->focusProxy(), row.button, {}, {100, 150});
+      QTest::mouseClick(view->focusProxy(), row.button, row.keys, {100, 150});
       return waitUntil([&] { return asked().size() > 1; }, std::chrono::milliseconds(500));
     };
     EXPECT_TRUE(clicked() || clicked()) << row.link; // the first may come before there is a frame
