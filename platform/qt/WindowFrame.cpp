@@ -40,13 +40,18 @@ WindowFrame::WindowFrame(QWidget& window)
                    [this](const QVariant& frame) { apply(frame.toRect()); });
 }
 
+bool WindowFrame::isMoving() const {
+  return animation_.state() == QAbstractAnimation::Running;
+}
+
+// Without a window manager that tells, Qt works it out from sizes that do not belong together while
+// the window changes its own.
 QSize WindowFrame::decoration() const {
-  return window_.frameGeometry().size() - window_.size();
+  return isMoving() ? decoration_ : window_.frameGeometry().size() - window_.size();
 }
 
 QRect WindowFrame::target() const {
-  const bool moves = animation_.state() == QAbstractAnimation::Running;
-  return moves ? animation_.endValue().toRect() : window_.frameGeometry();
+  return isMoving() ? animation_.endValue().toRect() : window_.frameGeometry();
 }
 
 Frame WindowFrame::frame() const {
@@ -63,7 +68,8 @@ Frame WindowFrame::frameForContentSize(double width, double height) const {
 }
 
 void WindowFrame::setFrame(const Frame& frame, bool animate) {
-  const QRect end = frameOnScreen(frame, window_.minimumSize() + decoration(),
+  decoration_ = decoration();
+  const QRect end = frameOnScreen(frame, window_.minimumSize() + decoration_,
                                   window_.screen()->availableGeometry());
   animation_.stop();
   if (!animate || animationDuration() == 0) return apply(end);
@@ -74,13 +80,14 @@ void WindowFrame::setFrame(const Frame& frame, bool animate) {
 }
 
 void WindowFrame::centre() {
+  decoration_ = decoration();
   QRect frame = target();
   frame.moveCenter(window_.screen()->availableGeometry().center());
   apply(frame);
 }
 
 void WindowFrame::apply(const QRect& frame) {
-  window_.resize(frame.size() - decoration());
+  window_.resize(frame.size() - decoration_);
   window_.move(frame.topLeft());
 }
 

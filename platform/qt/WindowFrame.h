@@ -28,12 +28,14 @@ public:
   void centre();
 
 private:
+  bool isMoving() const;
   QSize decoration() const;
   QRect target() const;
   void apply(const QRect& frame);
 
   QWidget& window_;
   QVariantAnimation animation_;
+  QSize decoration_; // as it was when the window last began to move
 };
 
 } // namespace wrenvale::platform
