@@ -12,8 +12,12 @@
     return null;
   };
 
+  // Not what is of this machine.
+  const isForTheBrowser = (url) => /^(https?|mailto):/.test(url);
+
   // A person who holds Alt would have the engine save what the link leads to.
-  const isToSave = (event) => event.isTrusted && event.button === 0 && event.altKey && !event.ctrlKey && !event.shiftKey;
+  const isToSave = (event) =>
+    event.isTrusted && event.button === 0 && event.altKey && !event.ctrlKey && !event.shiftKey;
 
   let clicked = null, click = null, latest = null;
   const onClick = (event) => {
@@ -24,7 +28,8 @@
     click = event;
     setTimeout(() => { clicked = click = null; });
     remark("link", clicked);
-    if (isToSave(event)) setTimeout((url) => { if (!event.defaultPrevented) remark("unasked", url); }, 0, clicked);
+    if (isToSave(event) && isForTheBrowser(clicked))
+      setTimeout((url) => { if (!event.defaultPrevented) remark("unasked", url); }, 0, clicked);
   };
   window.addEventListener("click", onClick, true);
   window.addEventListener("auxclick", onClick, true);
@@ -63,7 +68,7 @@
   // Links within the page, and those to save, the engine follows without asking.
   const isUnasked = ({ destination: { url }, downloadRequest, hashChange, userInitiated }) =>
     downloadRequest == null ? hashChange && (userInitiated || (url === clicked && isOver()))
-                            : /^https?:/.test(url);
+                            : isForTheBrowser(url);
 
   if (window.navigation) {
     navigation.addEventListener("navigate", (event) => {
