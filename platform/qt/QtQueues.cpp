@@ -1,5 +1,7 @@
 #include "platform/qt/QtQueues.h"
 
+#include <unistd.h>
+
 #include <cstdlib>
 
 #include <QCoreApplication>
@@ -12,9 +14,11 @@ constexpr std::chrono::milliseconds kPatienceAtExit{80};
 
 // What the handlers of the process's end, plain functions, are to end.
 QtQueues* started = nullptr;
+pid_t process = 0;
 
+// A child process that was only forked has no thread to end, and their locks for ever.
 void endStarted() {
-  started->end();
+  if (::getpid() == process) started->end();
 }
 
 } // namespace
@@ -25,6 +29,7 @@ std::unique_ptr<Queue> QtQueues::makeSerialQueue() {
 
 void QtQueues::start() {
   started = this;
+  process = ::getpid();
   qAddPostRoutine(endStarted); // as a rule, the application object goes before the process
   std::atexit(endStarted);     // a host may exit without
   mainQueue_.open();

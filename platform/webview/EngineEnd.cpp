@@ -1,11 +1,18 @@
 #include "platform/webview/EngineEnd.h"
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <utility>
 #include <vector>
 
 #include <QCoreApplication>
 #include <QPointer>
+
+QT_BEGIN_NAMESPACE
+// What the end of an application object calls: the routines of qAddPostRoutine(), each once.
+Q_CORE_EXPORT void qt_call_post_routines();
+QT_END_NAMESPACE
 
 namespace wrenvale::platform {
 
@@ -27,6 +34,20 @@ void end() {
     delete object;
 }
 
+// A host may exit() with its application object still there, and the engine's statics would be
+// destroyed while its threads still draw. The main thread's own objects go before all statics, the
+// latest of them first: this one is destroyed while the engine is whole, and gives it the orderly
+// end. A child process that was only forked has no threads to end.
+class EndOnExit {
+public:
+  ~EndOnExit() {
+    if (!state().hasEnded && ::getpid() == process_) qt_call_post_routines();
+  }
+
+private:
+  pid_t process_ = ::getpid();
+};
+
 } // namespace
 
 void destroyBeforeEngine(std::initializer_list<QObject*> objects) {
@@ -37,6 +58,7 @@ void destroyBeforeEngine(std::initializer_list<QObject*> objects) {
 
 // Routines run in the reverse of the order in which they were added.
 void endBeforeEngine() {
+  static thread_local const EndOnExit endOnExit;
   qRemovePostRoutine(end);
   qAddPostRoutine(end);
 }

@@ -1,5 +1,6 @@
-// The engine's orderly end. It goes with the application object, and what uses it has to go first,
-// while nobody else may be left to see to that.
+// The engine's orderly end. It goes with the application object, or before exit() destroys statics
+// when that object is still there. What uses the engine has to go first, while nobody else may be
+// left to see to that.
 
 #ifndef WRENVALE_PLATFORM_WEBVIEW_ENGINEEND_H
 #define WRENVALE_PLATFORM_WEBVIEW_ENGINEEND_H
@@ -10,7 +11,7 @@ class QObject;
 
 namespace wrenvale::platform {
 
-/// When the application object goes, destroys the objects that still exist then, in this order.
+/// When the engine ends, destroys the objects that still exist then, in this order.
 /// Main thread only.
 void destroyBeforeEngine(std::initializer_list<QObject*> objects);
 

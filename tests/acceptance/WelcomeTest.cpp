@@ -81,12 +81,14 @@ bool isRunning(const Home& home) {
 TEST_F(Welcome, EndsWithItsHostAndLeavesNothing) {
   const auto temporary = home_.folder() / "tmp";
   fs::create_directories(temporary);
-  for (const char* end : {"quit", "exit", "delete", "again"})
+  for (const std::string end : {"quit", "exit", "fork", "delete", "again"})
     for (const std::string time : {"0", "120", "250", "700", "shown"}) {
-      SCOPED_TRACE(std::string(end) + " after " + time);
+      SCOPED_TRACE(end + " after " + time);
       shows_ = time == "shown";
-      const auto ended =
-          run(end, time.c_str(), {{"TMPDIR", temporary}, {"XDG_RUNTIME_DIR", home_.folder()}});
+      // Before, what Qt's own threads have locked stays locked in the child, now and then.
+      if (end == "fork" && !shows_) continue;
+      const auto ended = run(end.c_str(), time.c_str(),
+                             {{"TMPDIR", temporary}, {"XDG_RUNTIME_DIR", home_.folder()}});
       EXPECT_EQ(ended.status, 0) << ended.errors;
       // Its processes notice its end by themselves; one that has only just been started gives up
       // after 15 s.
@@ -94,8 +96,13 @@ TEST_F(Welcome, EndsWithItsHostAndLeavesNothing) {
         usleep(20'000);
       EXPECT_FALSE(isRunning(home_));
       EXPECT_TRUE(fs::is_empty(temporary));
-      if (*end == 'q' || *end == 'e') {
-        EXPECT_EQ(isOwed(), !shows_ || *end == 'e');
+      const bool exits = end == "exit" || end == "fork";
+      if (end == "quit" || exits) {
+        EXPECT_EQ(isOwed(), !shows_ || exits);
+      }
+      // Where it does not, the engine's threads use what exit() destroys, now and then.
+      if (exits && shows_) {
+        EXPECT_EQ(ended.output, "in order\n");
       }
     }
   EXPECT_TRUE(wasPageAskedFor());

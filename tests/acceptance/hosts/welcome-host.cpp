@@ -1,11 +1,17 @@
 // A host that asks for its welcome window as soon as it can. Its argument says how it ends, after
 // as many milliseconds as its second argument says, or once the window is "shown":
 //   quit    it leaves its event loop
-//   exit    it ends from inside its event loop, with its application object still there
+//   exit    it ends from inside its event loop, with its application object still there; says
+//           "in order" if Qt's routines for the end are called all the same
+//   fork    a child process does so before
 //   delete  it deletes all windows that there are, and leaves its event loop
 //   again   it does the whole once more with another application object, in the same process
 
+#include <sys/wait.h>
+#include <unistd.h>
+
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 
@@ -27,6 +33,23 @@ bool isWindowShown() {
   return std::any_of(windows.begin(), windows.end(), [](auto* each) { return each->isVisible(); });
 }
 
+// The child has no thread but this one.
+bool endsInAChild() {
+  const pid_t child = ::fork();
+  if (child == 0) {
+    ::alarm(5); // rather than hanging
+    std::exit(0);
+  }
+  int status = -1;
+  return ::waitpid(child, &status, 0) == child && status == 0;
+}
+
+[[noreturn]] void endWithoutUnwinding(bool forks) {
+  if (forks && !endsInAChild()) ::_exit(3);
+  qAddPostRoutine([] { std::puts("in order"); });
+  std::exit(0);
+}
+
 int run(int argc, char** argv, const char* end, const char* time) {
   auto* application = new QApplication(argc, argv);
   const bool waits = std::strcmp(time, "shown") == 0;
@@ -34,7 +57,8 @@ int run(int argc, char** argv, const char* end, const char* time) {
   QObject::connect(&timer, &QTimer::timeout, application, [&timer, end, waits] {
     if (waits && !isWindowShown()) return;
     timer.stop();
-    if (std::strcmp(end, "exit") == 0) std::exit(0);
+    const bool forks = std::strcmp(end, "fork") == 0;
+    if (forks || std::strcmp(end, "exit") == 0) endWithoutUnwinding(forks);
     if (std::strcmp(end, "delete") == 0) deleteAllWindows();
     QCoreApplication::quit();
   });
