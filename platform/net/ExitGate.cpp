@@ -1,10 +1,8 @@
 #include "platform/net/ExitGate.h"
 
-#include <unistd.h>
+#include <QCoreApplication>
 
 #include <cstdlib>
-
-#include <QCoreApplication>
 
 namespace wrenvale::platform {
 
@@ -20,15 +18,7 @@ Clock::time_point waitDeadline() {
   return deadline;
 }
 
-// The one whose threads hold passes. A child process that was only forked has none of them, and
-// what they had locked stays locked in it.
-pid_t process() {
-  static const pid_t process = ::getpid();
-  return process;
-}
-
 void closeExitGate() {
-  if (::getpid() != process()) return;
   exitGate().close();
   exitGate().waitUntilEmpty(waitDeadline());
 }
@@ -80,7 +70,6 @@ RequestGate& exitGate() {
 
 // What was registered last is called first.
 void armExitGate() {
-  process();
   std::atexit(closeExitGate);
 }
 

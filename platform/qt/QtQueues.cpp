@@ -1,7 +1,5 @@
 #include "platform/qt/QtQueues.h"
 
-#include <unistd.h>
-
 #include <cstdlib>
 
 #include <QCoreApplication>
@@ -14,11 +12,9 @@ constexpr std::chrono::milliseconds kPatienceAtExit{80};
 
 // What the handlers of the process's end, plain functions, are to end.
 QtQueues* started = nullptr;
-pid_t process = 0;
 
-// A child process that was only forked has no thread to end, and their locks for ever.
 void endStarted() {
-  if (::getpid() == process) started->end();
+  started->end();
 }
 
 } // namespace
@@ -29,7 +25,6 @@ std::unique_ptr<Queue> QtQueues::makeSerialQueue() {
 
 void QtQueues::start() {
   started = this;
-  process = ::getpid();
   qAddPostRoutine(endStarted); // as a rule, the application object goes before the process
   std::atexit(endStarted);     // a host may exit without
   mainQueue_.open();
