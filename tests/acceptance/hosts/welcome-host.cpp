@@ -2,8 +2,8 @@
 // as many milliseconds as its second argument says, or once the window is "shown":
 //   quit    it leaves its event loop
 //   exit    it ends from inside its event loop, with its application object still there; says
-//           "in order" if Qt's routines for the end are called all the same
-//   fork    a child process does so before
+//           "in order" if Qt's routines for the end are called all the same. Once the window is
+//           shown, a child process does so before
 //   delete  it deletes all windows that there are, and leaves its event loop
 //   again   it does the whole once more with another application object, in the same process
 
@@ -44,8 +44,8 @@ bool endsInAChild() {
   return ::waitpid(child, &status, 0) == child && status == 0;
 }
 
-[[noreturn]] void endWithoutUnwinding(bool forks) {
-  if (forks && !endsInAChild()) ::_exit(3);
+[[noreturn]] void endWithoutUnwinding(bool isShown) {
+  if (isShown && !endsInAChild()) ::_exit(3);
   qAddPostRoutine([] { std::puts("in order"); });
   std::exit(0);
 }
@@ -57,8 +57,7 @@ int run(int argc, char** argv, const char* end, const char* time) {
   QObject::connect(&timer, &QTimer::timeout, application, [&timer, end, waits] {
     if (waits && !isWindowShown()) return;
     timer.stop();
-    const bool forks = std::strcmp(end, "fork") == 0;
-    if (forks || std::strcmp(end, "exit") == 0) endWithoutUnwinding(forks);
+    if (std::strcmp(end, "exit") == 0) endWithoutUnwinding(waits);
     if (std::strcmp(end, "delete") == 0) deleteAllWindows();
     QCoreApplication::quit();
   });
