@@ -17,10 +17,6 @@ constexpr const char* kPlainHost = "com.example.plainhost";
 
 constexpr const char* kAutomatic =
     R"([{"bundle_id": "com.example.phototool", "reset_mode": "auto"}])";
-constexpr const char* kGeneration =
-    R"([{"bundle_id": "com.example.phototool", "reset_number": 4,
-         "min_build_number": 1200, "max_build_number": 1299}])";
-
 Run launch(const Home& home, const char* program) {
   return home.run(program, {"--quit-after", "700"});
 }
@@ -45,22 +41,6 @@ TEST(Launch, FirstNormalAndUpdateLaunchDiffer) {
   ASSERT_EQ(resets.size(), 3U);
   EXPECT_EQ(resets[0].userAgent.find("Photo%20Tool/1204 123456789 Darwin/"), 0U);
   EXPECT_EQ(resets[2].userAgent.find("Photo%20Tool/1205 123456789 Darwin/"), 0U);
-}
-
-TEST(Launch, GenerationIsRememberedAtFirstAndTriggersLater) {
-  const Home home;
-  {
-    const VendorServer server{std::string(kGeneration)};
-    launch(home, PHOTO_TOOL);
-    EXPECT_EQ(home.defaults(kPhotoTool).find("Recommender Reset Number"), Value(4));
-    EXPECT_FALSE(home.defaults(kPhotoTool).contains("Show Update Window"));
-  }
-  std::string next = kGeneration;
-  next.replace(next.find(": 4"), 3, ": 5");
-  const VendorServer server{next};
-  launch(home, PHOTO_TOOL);
-  EXPECT_EQ(home.defaults(kPhotoTool).find("Recommender Reset Number"), Value(5));
-  EXPECT_EQ(home.defaults(kPhotoTool).find("Show Update Window"), Value(true));
 }
 
 std::string nested(std::size_t depth) {

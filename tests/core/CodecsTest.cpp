@@ -90,20 +90,5 @@ TEST_F(EncryptString, IsNothingWhenAStepFails) {
   EXPECT_FALSE(service->encryptString("x"));
 }
 
-TEST_F(EncryptString, AKeyThatDoesNotImportEndsTheProcess) {
-  fake.encryption.status = -25257;
-  start();
-  testing::internal::CaptureStderr();
-  int status = 0;
-  try {
-    service->_importPublicKey();
-  } catch (const platform::FakeTermination& termination) {
-    status = termination.status;
-  }
-  EXPECT_EQ(status, 255);
-  EXPECT_EQ(testing::internal::GetCapturedStderr(),
-            "SecItemImport failed (oserr=-25257)\n(null)\n");
-}
-
 } // namespace
 } // namespace wrenvale

@@ -40,17 +40,8 @@ TEST_F(Identity, ComesFromTheInfoDictionary) {
   EXPECT_EQ(service->appstoreID(), "123456789");
 }
 
-TEST_F(Identity, IsNothingWithoutAnInfoDictionary) {
-  fake.mainBundle.info.clear();
-  start();
-  EXPECT_EQ(service->bundleID(), std::nullopt);
-  EXPECT_EQ(service->bundleVersion(), 0);
-  EXPECT_EQ(service->appName(), "");
-  EXPECT_EQ(service->appstoreID(), std::nullopt);
-}
-
 TEST_F(Identity, SurvivesInfoValuesOfOddTypes) {
-  const Value odd[] = {Value::Array{1}, Value::Dictionary{}, true, Date(), Data{std::byte{9}}};
+  const Value odd[] = {Value(), Value::Array{1}, Value::Dictionary{}, true, Date(), Data{std::byte{9}}};
   for (const auto& value : odd) {
     for (auto& [key, info] : fake.mainBundle.info)
       info = value;
@@ -146,18 +137,6 @@ TEST_F(UserAgent, NeedsARecentSystemThatKnowsItsRelease) {
   fake.kernel.version = 1343.0;
   fake.kernel.values.erase("kern.osrelease");
   EXPECT_FALSE(hasHeader());
-}
-
-using RecommenderURL = ServiceTest;
-
-TEST_F(RecommenderURL, PrefersTheUpdateVariant) {
-  start();
-  EXPECT_EQ(service->recommenderURL(), "http://vendor.example/store/recommender_US_en_F.json");
-  fake.userDefaults.setObject(true, keys::kShowUpdateWindow);
-  EXPECT_EQ(service->recommenderURL(), "http://vendor.example/store/recommender_US_en_U.json");
-  fake.userDefaults.values = {{"Recommender Last Version", 120}};
-  start();
-  EXPECT_EQ(service->recommenderURL(), "http://vendor.example/store/recommender_US_en.json");
 }
 
 } // namespace

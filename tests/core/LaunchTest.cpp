@@ -1,7 +1,5 @@
 #include "tests/core/ServiceFixture.h"
 
-#include "rating/RatingRecords.h"
-
 namespace wrenvale {
 namespace {
 
@@ -57,12 +55,6 @@ TEST_F(Launch, CreatingTheServiceOnlyReads) {
   start();
   EXPECT_TRUE(fake.userDefaults.values.empty());
   EXPECT_EQ(fake.queues.global.size() + fake.queues.main.size() + fake.queues.serial.size(), 0U);
-}
-
-TEST(ExportedConstants, MoodsAreNotActionCodes) {
-  EXPECT_EQ(kRateNeutral, 0);
-  EXPECT_EQ(kRateDislike, rating::kLiked);
-  EXPECT_EQ(kRateLike, rating::kDisliked);
 }
 
 } // namespace

@@ -44,34 +44,6 @@ TEST_F(ServiceReset, ReturnsAtOnceAndAsksTheServerInTheBackground) {
   EXPECT_EQ(request.headers.front().second, *service->userAgent());
 }
 
-TEST_F(ServiceReset, FirstRunRemembersTheGenerationAndForcesNothing) {
-  start();
-  check();
-  EXPECT_EQ(stored(keys::kRecommenderLastVersion), Value(120));
-  EXPECT_EQ(stored(keys::kRecommenderResetNumber), Value(4));
-  EXPECT_TRUE(stored(keys::kShowUpdateWindow).isNull());
-  EXPECT_TRUE(service->triggerWelcomeWindow()) << "still the first run";
-}
-
-TEST_F(ServiceReset, NewGenerationOwesTheWindow) {
-  startAfterBuild(120);
-  EXPECT_FALSE(service->triggerWelcomeWindow());
-  check();
-  EXPECT_EQ(stored(keys::kRecommenderResetNumber), Value(4));
-  EXPECT_EQ(stored(keys::kShowUpdateWindow), Value(true));
-  EXPECT_TRUE(service->triggerWelcomeWindow());
-}
-
-TEST_F(ServiceReset, UpdateOwesTheWindowAndLeavesTheGenerationAlone) {
-  answer(
-      Value::Array{Value::Dictionary{{"bundle_id", "com.example.host"}, {"reset_mode", "auto"}}});
-  startAfterBuild(119);
-  check();
-  EXPECT_EQ(stored(keys::kRecommenderLastVersion), Value(120));
-  EXPECT_TRUE(stored(keys::kRecommenderResetNumber).isNull());
-  EXPECT_EQ(stored(keys::kShowUpdateWindow), Value(true));
-}
-
 TEST_F(ServiceReset, TheBuildIsRememberedBeforeTheDownload) {
   startAfterBuild(119);
   Value during;
@@ -99,14 +71,6 @@ TEST_F(ServiceReset, TouchesTheInterfaceOnTheMainQueueOnly) {
   EXPECT_TRUE(stored(keys::kShowUpdateWindow).isNull());
   EXPECT_TRUE(fake.queues.main.step());
   EXPECT_EQ(stored(keys::kShowUpdateWindow), Value(true));
-}
-
-TEST_F(ServiceReset, ObserversSeeTheSwitch) {
-  startAfterBuild(120);
-  int calls = 0;
-  fake.userDefaults.addObserver(keys::kShowUpdateWindow, [&] { ++calls; });
-  check();
-  EXPECT_EQ(calls, 1);
 }
 
 TEST_F(ServiceReset, AFailedDownloadChangesTheBuildOnly) {

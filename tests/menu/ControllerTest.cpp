@@ -150,24 +150,6 @@ TEST(AppName, TakesThePlaceOfThePlaceholder) {
     EXPECT_EQ(withAppName(row.title, row.name), row.expected) << row.title;
 }
 
-TEST_F(ControllerTest, TheNameGoesIntoTheMenusOfTheMenuBarAndNoDeeper) {
-  const auto deeper = std::make_shared<FakeMenu>();
-  const auto menu = std::make_shared<FakeMenu>();
-  deeper->add({.title = "Export #app_name"});
-  menu->add({.title = "About #app_name"});
-  menu->add({.title = "#app_name Tools", .submenu = deeper});
-  menu->add({.title = "", .separator = true});
-  mainMenu->add({.title = "#app_name", .submenu = menu});
-  mainMenu->add({.title = "Hide #app_name"});
-  auto controller = makeController();
-  controller->setHelpMenu(nullptr);
-  controller->awakeFromNib();
-  EXPECT_THAT(menu->titles(), ElementsAre("About [Photo Tool]", "[Photo Tool] Tools", "-"));
-  EXPECT_THAT(deeper->titles(), ElementsAre("Export #app_name"));
-  EXPECT_THAT(mainMenu->titles(), ElementsAre("#app_name", "Hide #app_name"));
-  EXPECT_THAT(helpMenu->titles(), ElementsAre());
-}
-
 TEST_F(ControllerTest, MenusMayBeMissingOrGone) {
   auto controller = makeController();
   helpMenu.reset();

@@ -124,15 +124,6 @@ TEST_F(RateWindowController, TheFaceFollowsThePointer) {
   EXPECT_EQ(faces, "smile-0 smile-1 smile-0 smile-2 smile-1 smile-1 smile-0 smile-0");
 }
 
-TEST_F(RateWindowController, AMissingFaceIsLeftEmpty) {
-  fake.rateWindows.missingImages = {"smile-2"};
-  auto& window = begin();
-  window.hover(RateButton::kLike);
-  EXPECT_EQ(window.face(), "");
-  window.leave(RateButton::kLike);
-  EXPECT_EQ(window.face(), "smile-0");
-}
-
 TEST_F(RateWindowController, LoadsTheWindowOnceAndPushesLaterViews) {
   const auto loaded = fake.clock.time;
   auto& window = begin();
@@ -142,15 +133,6 @@ TEST_F(RateWindowController, LoadsTheWindowOnceAndPushesLaterViews) {
               ElementsAre(Pair(RateView::kRate, false), Pair(RateView::kAppstore, true)));
   EXPECT_EQ(controller->date(), loaded);
   EXPECT_FALSE(controller->triggered());
-}
-
-TEST_F(RateWindowController, TextsCarryTheTranslatedName) {
-  EXPECT_EQ(begin().appName, "Photo Tool");
-  fake.localization.info["CFBundleName"] = "Fotowerkzeug";
-  EXPECT_EQ(begin().appName, "Fotowerkzeug");
-  fake.localization.info.clear();
-  fake.mainBundle.info.clear();
-  EXPECT_EQ(begin().appName, "");
 }
 
 } // namespace

@@ -37,23 +37,6 @@ TEST(RecommenderDocument, ReadsTextFromWhateverStandsThere) {
   }
 }
 
-TEST(RecommenderDocument, KnowsEveryFieldOfACandidate) {
-  const Candidate candidate(json(R"({
-    "bundle_id": "1", "sp_name": "2", "sp_icon": "3", "brick": "4", "media": "5",
-    "sp_description": "6", "sp_link_name": "7", "link": "8", "group": "9", "alert_text": "10",
-    "alert_link": "11", "alert_link_name": "12", "priority_score": " +13 points",
-    "unknown": "14", "group": "later"})"));
-  const Text texts[] = {candidate.bundleID,  candidate.name,      candidate.icon,
-                        candidate.brick,     candidate.media,     candidate.description,
-                        candidate.linkName,  candidate.link,      candidate.group,
-                        candidate.alertText, candidate.alertLink, candidate.alertLinkName};
-  const char* const expected[] = {"1", "2", "3",     "4",  "5",  "6",
-                                  "7", "8", "later", "10", "11", "12"};
-  for (std::size_t i = 0; i < std::size(texts); ++i)
-    EXPECT_EQ(optional(texts[i]), expected[i]) << i;
-  EXPECT_EQ(candidate.priorityScore, 13);
-}
-
 TEST(RecommenderDocument, TellsAbsentKeysFromEmptyValues) {
   const struct {
     const char* entry;

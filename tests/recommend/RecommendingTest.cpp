@@ -4,7 +4,6 @@
 #include "recommend/KVXAppRecommendation.h"
 #include "recommend/RecommenderDocument.h"
 #include "recommend/Scoring.h"
-#include "recommend/Trace.h"
 #include "tests/recommend/RecommendFixture.h"
 
 namespace wrenvale::recommend {
@@ -83,41 +82,6 @@ TEST_F(RecommendTest, FollowsCandidatesFromTheDocumentToTheList) {
   auto newer = context();
   newer.host.bundleVersion = 121;
   EXPECT_EQ(outcome(json(kApps), newer), "closed");
-}
-
-TEST_F(RecommendTest, GivesAccountOfEveryDecision) {
-  class Account : public Trace {
-  public:
-    void gate(const StableVersion* entry, bool passed) override {
-      text += entry && passed ? "gate open; " : "gate closed; ";
-    }
-    void politeness(bool polite) override { text += polite ? "polite; " : "not polite; "; }
-    void leftOut(const Candidate& candidate, const Exclusion& exclusion) override {
-      text += std::string(candidate.bundleID ? *candidate.bundleID : "?") + " out " +
-              std::to_string(static_cast<int>(exclusion.reason)) + exclusion.by + "; ";
-    }
-    void considering(const Candidate& candidate) override {
-      text += std::string(*candidate.bundleID) + " from " + std::to_string(candidate.priorityScore);
-    }
-    void dependency(const Dependency& dependency, DependencyOutcome, std::int64_t earned) override {
-      text += " " + std::string(*dependency.bundleID()) + "+" + std::to_string(earned);
-    }
-    void built(const KVXAppRecommendation& record) override {
-      text += " = " + std::to_string(record.points()) + "; ";
-    }
-    void groupTaken(const KVXAppRecommendation& dropped,
-                    const KVXAppRecommendation& best) override {
-      text += *dropped.bundleID() + " behind " + *best.bundleID();
-    }
-    std::string text;
-  } account;
-  applications.identifiers = {"i"};
-  auto traced = context();
-  traced.trace = &account;
-  outcome(json(kApps), traced);
-  EXPECT_EQ(account.text, "gate open; not polite; a from 1 = 1; b from 120 = 120; "
-                          "c from 100 i+100 j+0 = 200; com.example.host out 1; i out 2; ? out 0; "
-                          "d out 3i; e from -1 = -1; b behind c");
 }
 
 } // namespace

@@ -2,11 +2,9 @@
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-
-#include <cstdio>
 
 #include "tests/platform/linux/TemporaryFolder.h"
+#include "tests/tools/KitRun.h"
 #include "tools/wrenvale/Check.h"
 #include "tools/wrenvale/JSONPlaces.h"
 #include "tools/wrenvale/SiteFiles.h"
@@ -17,6 +15,7 @@ namespace {
 using platform::TemporaryFolder;
 using testing::ElementsAreArray;
 using testing::HasSubstr;
+using tests::runKit;
 
 // "2:14: error: text" for each finding; without a line when there is none.
 std::vector<std::string> shown(const CheckReport& report) {
@@ -113,20 +112,6 @@ TEST(Check, KnowsWhatASiteLacks) {
                                 "warning: hosts will ask for recommender_US_en_U.json in vain",
                                 "warning: hosts will ask for reset_US_en.json in vain"}));
   EXPECT_THAT(shown(checkSite(site.path("/none"))).at(0), HasSubstr("no documents"));
-}
-
-struct Output {
-  std::string text;
-  int status;
-};
-
-Output runKit(const std::string& arguments) {
-  Output result{};
-  std::FILE* pipe = popen((WRENVALE_KIT " " + arguments + " 2>&1").c_str(), "r");
-  for (int c; (c = std::getc(pipe)) != EOF;)
-    result.text += static_cast<char>(c);
-  result.status = WEXITSTATUS(pclose(pipe));
-  return result;
 }
 
 TEST(Check, AnswersItsCommandLine) {

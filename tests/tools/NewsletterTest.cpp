@@ -2,9 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
 
-#include <cstdlib>
 #include <thread>
 
 #include <httplib.h>
@@ -16,6 +14,7 @@
 #include "platform/net/OpenSSLEncryption.h"
 #include "tests/core/ServiceFixture.h"
 #include "tests/platform/linux/TemporaryFolder.h"
+#include "tests/tools/KitRun.h"
 #include "tests/tools/ServeProcess.h"
 #include "tools/wrenvale/KeyPair.h"
 #include "tools/wrenvale/SiteFiles.h"
@@ -71,19 +70,8 @@ void subscribe(int port, const std::string& address, const std::string& pem = de
   welcome::deliverSubscription(address, service, Endpoints(configuration), client);
 }
 
-struct Output {
-  std::string text;
-  int status;
-};
-
-Output listed(const std::string& inbox, const std::string& options = {}) {
-  Output result{};
-  const auto command = WRENVALE_KIT " inbox --inbox " + inbox + " " + options + " 2>&1";
-  std::FILE* pipe = popen(command.c_str(), "r");
-  for (int c; (c = std::getc(pipe)) != EOF;)
-    result.text += static_cast<char>(c);
-  result.status = WEXITSTATUS(pclose(pipe));
-  return result;
+KitRun listed(const std::string& inbox, const std::string& options = {}) {
+  return runKit("inbox --inbox " + inbox + " " + options);
 }
 
 TEST(Newsletter, WhatAHostSendsIsInTheInboxOnce) {

@@ -1,28 +1,16 @@
-#include <array>
-#include <cstdio>
-#include <cstdlib>
-#include <fstream>
-#include <iterator>
-
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include "platform/net/JSONReader.h"
+#include "tests/platform/linux/TemporaryFolder.h"
+#include "tests/tools/KitRun.h"
 #include "tools/wrenvale/JSONText.h"
 #include "tools/wrenvale/Preview.h"
+#include "tools/wrenvale/SiteFiles.h"
 
 namespace wrenvale::kit {
 namespace {
 
 using testing::HasSubstr;
-
-std::string contentsOf(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  EXPECT_TRUE(file) << path;
-  return {std::istreambuf_iterator<char>(file), {}};
-}
 
 Value json(const std::string& text) {
   return platform::JSONReader().JSONObjectWithData(text).object.value_or(Value());
@@ -35,35 +23,19 @@ PreviewRequest requestOf(std::int64_t build) {
           .vendorBase = "http://127.0.0.1:47210"};
 }
 
-struct Output {
-  std::string text; ///< standard output and standard error
-  int status;
-};
-
-// Runs the kit's preview with these arguments, which a shell reads.
-Output runPreview(const std::string& arguments) {
-  Output result{};
-  std::FILE* pipe = popen((WRENVALE_KIT " preview " + arguments + " 2>&1").c_str(), "r");
-  std::array<char, 4096> buffer;
-  while (const auto size = std::fread(buffer.data(), 1, buffer.size(), pipe))
-    result.text.append(buffer.data(), size);
-  result.status = WEXITSTATUS(pclose(pipe));
-  return result;
-}
-
 TEST(Preview, ShowsTheExampleDocumentAsExpected) {
   auto request = requestOf(1204);
   request.installed = {"com.example.phototool", "com.example.scanbench",
                        "com.example.postcardclassic"};
   const auto site = std::string(EXAMPLE_SITE "/store/recommender_US_en");
   const auto expected = std::string(EXPECTED_OUTPUT "/preview_US_en");
-  const auto shown = previewOf(json(contentsOf(site + ".json")), request);
+  const auto shown = previewOf(json(contentsOf(site + ".json").value()), request);
   EXPECT_EQ(asText(shown), contentsOf(expected + ".txt"));
   EXPECT_EQ(asJSON(shown), contentsOf(expected + ".json"));
   EXPECT_FALSE(json(asJSON(shown)).isNull());
 
   for (const char* variant : {"_F", "_U"}) {
-    const auto other = previewOf(json(contentsOf(site + variant + ".json")), request);
+    const auto other = previewOf(json(contentsOf(site + variant + ".json").value()), request);
     ASSERT_TRUE(other.recommendations) << variant;
     EXPECT_EQ(other.polite, variant == std::string("_F"));
     for (const auto& app : *other.recommendations)
@@ -99,24 +71,12 @@ TEST(Preview, WritesTextThatAnyoneMayRead) {
   const std::string nasty("q\"b\\\n\x1B\0\x7F\u009B\u00E4", 12);
   EXPECT_EQ(json("[" + jsonString(nasty) + "]").at(0), Value(nasty));
   EXPECT_EQ(readable(nasty), "q\"b\\\\u000a\\u001b\\u0000\\u007f\\u009b\u00E4");
-  const struct {
-    const char* text;
-    std::size_t offset, line, column;
-  } rows[] = {{"", 0, 1, 1},
-              {"ab", 2, 1, 3},
-              {"a\nb", 1, 1, 2},
-              {"a\nb", 2, 2, 1},
-              {"\n\n\u00E4x", 4, 3, 2}};
-  for (const auto& row : rows) {
-    EXPECT_EQ(placeOf(row.text, row.offset).line, row.line) << row.text;
-    EXPECT_EQ(placeOf(row.text, row.offset).column, row.column) << row.text;
-  }
 }
 
 TEST(Preview, AnswersItsCommandLine) {
-  std::string broken = testing::TempDir() + "/wrenvale-preview-XXXXXX";
-  close(mkstemp(broken.data()));
-  std::ofstream(broken) << "{\"options\": {},\n \"apps\": [}";
+  const platform::TemporaryFolder folder;
+  folder.write("/broken.json", "{\"options\": {},\n \"apps\": [}");
+  const auto broken = folder.path("/broken.json");
   const std::string document = EXAMPLE_SITE "/store/recommender_US_en.json";
   const std::string host = " --bundle-id com.example.phototool --build ";
   const struct {
@@ -140,11 +100,10 @@ TEST(Preview, AnswersItsCommandLine) {
       {document + host + "1 --sneed 2", 2, "sneed"},
   };
   for (const auto& row : rows) {
-    const auto output = runPreview(row.arguments);
+    const auto output = tests::runKit("preview " + row.arguments);
     EXPECT_EQ(output.status, row.status) << row.arguments << "\n" << output.text;
     EXPECT_THAT(output.text, HasSubstr(row.says)) << row.arguments;
   }
-  std::remove(broken.c_str());
 }
 
 } // namespace

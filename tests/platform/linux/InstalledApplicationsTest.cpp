@@ -140,18 +140,6 @@ TEST_F(InstalledApplications, WhatIsNoFileIsPassedOver) {
   EXPECT_EQ(find("org.sketch"), "/own/applications/org.sketch.desktop") << "link to an entry";
 }
 
-TEST_F(InstalledApplications, EachCallAsksAnew) {
-  const auto applications = desktop();
-  const auto isInstalled = [&] {
-    return applications.URLForApplicationWithBundleIdentifier("org.sketch").has_value();
-  };
-  EXPECT_FALSE(isInstalled());
-  install({{"/second/applications/org.sketch.desktop", kEntry}});
-  EXPECT_TRUE(isInstalled());
-  clear();
-  EXPECT_FALSE(isInstalled());
-}
-
 TEST(DesktopEntries, FoldersFollowTheEnvironment) {
   using Folders = std::vector<std::string>;
   const Folders kSystem = {"/usr/local/share/applications/", "/usr/share/applications/"};

@@ -75,14 +75,5 @@ TEST(Locale, IsReadFromTheEnvironment) {
   }
 }
 
-TEST(Locale, EachCallReadsThePresentSettings) {
-  Variables variables = {{"LANG", "de_DE"}};
-  const EnvironmentLocale locale(environmentOf(variables));
-  EXPECT_THAT(locale.countryCode(), testing::Optional(std::string("DE")));
-  variables = {{"LANG", "fr_FR"}, {"LANGUAGE", "it"}};
-  EXPECT_THAT(locale.countryCode(), testing::Optional(std::string("FR")));
-  EXPECT_THAT(locale.preferredLanguages(), testing::ElementsAre("it"));
-}
-
 } // namespace
 } // namespace wrenvale::platform

@@ -42,16 +42,6 @@ TEST(MainBundle, HostsInfoDictionaryIsReadableBeforeMain) {
   EXPECT_EQ(&builtInSystemParts(), &builtInSystemParts());
 }
 
-TEST(MainBundle, ValuesKeepTheirTypes) {
-  const LinuxMainBundle bundle(kInfo);
-  EXPECT_EQ(bundle.objectForInfoDictionaryKey("CFBundleVersion"), Value(1204));
-  EXPECT_EQ(bundle.objectForInfoDictionaryKey("Appstore ID"), Value(1.5));
-  EXPECT_EQ(bundle.objectForInfoDictionaryKey("Odd"),
-            Value(Value::Array{true, Value::Dictionary{{"a", "b"}}}));
-  EXPECT_TRUE(bundle.objectForInfoDictionaryKey("CFBundleIdentifier").isNull());
-  EXPECT_TRUE(bundle.objectForInfoDictionaryKey("").isNull());
-}
-
 TEST(MainBundle, WithoutADictionaryEveryKeyIsNull) {
   const std::string_view rows[] = {
       "",

@@ -212,29 +212,6 @@ TEST(PropertyList, survivesMalformedAndMaliciousLists) {
     EXPECT_FALSE(valueFromPropertyList(list)) << name;
 }
 
-// Each round damages a good list in up to four places; what is still understood must be writable.
-TEST(PropertyList, survivesRandomDamage) {
-  const auto binary = *propertyListFromValue(everything());
-  const std::vector<std::string> seeds{
-      binary, inLibplistsXML(*propertyListFromValue(Value::Dictionary{
-                  {"a", Value::Array{1, 0.5, "x&y", true, dateAt(0), bytes("abc")}}}))};
-  std::mt19937 random(20);
-  int understood = 0;
-  for (int round = 0; round < 20000; ++round) {
-    auto list = seeds[random() % seeds.size()];
-    for (auto damage = random() % 4 + 1; damage > 0; --damage)
-      list[random() % list.size()] = static_cast<char>(random());
-    if (random() % 8 == 0) list.resize(random() % list.size());
-    const auto value = valueFromPropertyList(list);
-    if (!value) continue;
-    ++understood;
-    const auto again = propertyListFromValue(*value);
-    ASSERT_TRUE(again) << "round " << round;
-    ASSERT_TRUE(valueFromPropertyList(*again)) << "round " << round;
-  }
-  EXPECT_GT(understood, 100);
-}
-
 TEST(PropertyList, readsWhatOtherWritersKeep) {
   const std::string zeros(8, '\0');
   EXPECT_TRUE(valueFromPropertyList(binaryList({"\x14" + zeros + "\x80" + zeros.substr(1)})) ==

@@ -4,7 +4,6 @@
 
 #include <gmock/gmock.h>
 
-#include <QImage>
 #include <QMenuBar>
 #include <QTest>
 #include <QTranslator>
@@ -172,16 +171,6 @@ TEST_F(QtMenusTest, AnEmptyTranslationIsNone) {
   QCoreApplication::removeTranslator(&odd);
   EXPECT_EQ(item("openGeneralSupportAction")->text(), "Support");
   EXPECT_EQ(item("openSupportWebPageAction")->text(), "أداة الصور مساعدة(&H)");
-}
-
-TEST_F(QtMenusTest, ImagesAreKept) {
-  auto controller = makeController();
-  EXPECT_TRUE(controller->twitterIcon().isNull());
-  QImage image(2, 3, QImage::Format_RGB32);
-  image.fill(Qt::blue);
-  controller->setTwitterIcon(image);
-  EXPECT_EQ(controller->twitterIcon(), image);
-  EXPECT_TRUE(controller->kvxLogo().isNull());
 }
 
 } // namespace

@@ -4,7 +4,6 @@
 #include <map>
 
 #include <QLabel>
-#include <QPainter>
 
 #include "GermanTranslator.h"
 #include "platform/qt/FaceDrawing.h"
@@ -86,26 +85,6 @@ TEST_F(QtRateWindowLooksTest, EachMoodHasAFaceAndAMissingOneShowsNothing) {
     white.fill(Qt::white);
     EXPECT_EQ(blank, white) << missing;
     EXPECT_EQ(outlet("imageView").accessibleName(), "");
-  }
-}
-
-// Across its left edge, a face is at most three pixels from nothing to solid at any scale.
-TEST(FaceDrawingTest, IsSharpAtEveryScale) {
-  for (const char* name : {"smile-0", "smile-1", "smile-2"}) {
-    for (const int scale : {1, 2, 3}) {
-      QImage image(128 * scale, 128 * scale, QImage::Format_ARGB32_Premultiplied);
-      image.fill(Qt::transparent);
-      QPainter painter(&image);
-      faceNamed(name)->paint(painter, image.rect());
-      painter.end();
-      int blurred = 0;
-      for (int x = 0; x < 64 * scale; ++x) {
-        const int alpha = qAlpha(image.pixel(x, 64 * scale));
-        blurred += alpha > 0 && alpha < 255;
-      }
-      EXPECT_LE(blurred, 3) << name << " at " << scale;
-      EXPECT_EQ(qAlpha(image.pixel(64 * scale, 64 * scale)), 255) << name;
-    }
   }
 }
 

@@ -16,19 +16,6 @@ protected:
   }
 };
 
-TEST_F(QtRateWindowTest, IsAnOrdinaryWindowWithACloseButtonOnly) {
-  open();
-  const Qt::WindowFlags flags = widget()->windowFlags();
-  EXPECT_TRUE(flags & Qt::WindowCloseButtonHint);
-  EXPECT_FALSE(flags & (Qt::WindowMinMaxButtonsHint | Qt::FramelessWindowHint));
-  EXPECT_FALSE(widget()->isModal());
-  EXPECT_EQ(widget()->windowTitle(), "Rate Photo Tool");
-  for (const char* view : {"appstoreView", "contactView", "closeButton"})
-    EXPECT_FALSE(outlet(view).isVisible()) << view;
-  for (const char* name : {"likeButton", "dislikeButton", "imageView", "rateView"})
-    EXPECT_TRUE(outlet(name).isVisible()) << name;
-}
-
 TEST_F(QtRateWindowTest, PressesOfThePresentViewReachTheDelegate) {
   const StillDesktop still;
   pushOnLike();

@@ -2,12 +2,8 @@
 
 #include <wrenvale/KVXWrenvale.h>
 
-#include <csignal>
-
-#include <QAbstractButton>
 #include <QMessageBox>
 
-#include "Processes.h"
 #include "WebViewFixture.h"
 #include "tests/welcome/WelcomeFixture.h"
 
@@ -156,39 +152,6 @@ TEST_F(EndToEndTest, APageMayAskForAnything) {
     EXPECT_EQ(delegate->finished, 1);
     EXPECT_TRUE(waitUntil([] { return !top("Recommender") && !top("QMessageBox"); }));
   }
-}
-
-// Who sees the window is told first.
-TEST_F(EndToEndTest, APageWhoseProcessEndsClosesItsWindow) {
-  fake.locale.country = "US";
-  for (const bool shown : {false, true}) {
-    site.page("/store/newsletter/index_us.html",
-              std::string(shown ? "<script>Recommender.showWindow();" : "<script>") +
-                  "fetch('/begun')</script>");
-    const auto before = site.heads("/begun").size();
-    open();
-    controller->setDisplayAlerts(false);
-    delegate->finished = 0;
-    ASSERT_TRUE(turnUntil([&] { return site.heads("/begun").size() > before; }));
-    ASSERT_EQ(top("Recommender")->isVisible(), shown);
-    for (const auto process : platform::renderers())
-      kill(process, SIGKILL);
-    if (shown) {
-      ASSERT_TRUE(waitUntil([] { return QApplication::activeModalWidget(); }));
-      EXPECT_EQ(delegate->finished, 0);
-      qobject_cast<QMessageBox*>(QApplication::activeModalWidget())->buttons().first()->click();
-    }
-    EXPECT_TRUE(waitUntil([&] { return delegate->finished == 1; })) << shown;
-    EXPECT_TRUE(waitUntil([] { return !top("Recommender"); })) << shown;
-  }
-}
-
-TEST_F(EndToEndTest, AMissingServerClosesTheHiddenWindow) {
-  fake.locale.country = "US";
-  site.answer("/store/newsletter/index_us.html", "");
-  open();
-  EXPECT_TRUE(turnUntil([&] { return delegate->finished == 1; }));
-  EXPECT_EQ(controller, nullptr);
 }
 
 } // namespace
