@@ -5,9 +5,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <fstream>
-#include <iterator>
-
 #include "platform/linux/PropertyList.h"
 
 extern char** environ;
@@ -17,11 +14,6 @@ namespace wrenvale::tests {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string contents(const fs::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
 
 std::vector<char*> pointers(std::vector<std::string>& texts) {
   std::vector<char*> result;
@@ -56,27 +48,17 @@ std::vector<std::string> environmentOf(const fs::path& home,
 
 } // namespace
 
-Home::Home() {
-  std::string pattern = fs::temp_directory_path() / "wrenvale-home-XXXXXX";
-  folder_ = mkdtemp(pattern.data());
-}
-
-Home::~Home() {
-  std::error_code ignored;
-  fs::remove_all(folder_, ignored);
-}
-
 Run Home::run(const std::string& program, std::vector<std::string> arguments,
               const std::map<std::string, std::string>& environment) const {
-  const auto out = folder_ / "output";
-  const auto errors = folder_ / "errors";
+  const auto out = folder() / "output";
+  const auto errors = folder() / "errors";
   posix_spawn_file_actions_t actions;
   posix_spawn_file_actions_init(&actions);
   constexpr int flags = O_WRONLY | O_CREAT | O_TRUNC;
   posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, out.c_str(), flags, 0600);
   posix_spawn_file_actions_addopen(&actions, STDERR_FILENO, errors.c_str(), flags, 0600);
   arguments.insert(arguments.begin(), program);
-  auto variables = environmentOf(folder_, environment);
+  auto variables = environmentOf(folder(), environment);
 
   Run run;
   const auto start = std::chrono::steady_clock::now();
@@ -89,17 +71,18 @@ Run Home::run(const std::string& program, std::vector<std::string> arguments,
   run.time = std::chrono::duration_cast<std::chrono::milliseconds>(
       std::chrono::steady_clock::now() - start);
   posix_spawn_file_actions_destroy(&actions);
-  run.output = contents(out);
-  run.errors = contents(errors);
+  run.output = platform::contentsOf(out);
+  run.errors = platform::contentsOf(errors);
   return run;
 }
 
 fs::path Home::settings(const std::string& identifier) const {
-  return folder_ / "config" / identifier / "defaults.plist";
+  return folder() / "config" / identifier / "defaults.plist";
 }
 
 Value Home::defaults(const std::string& identifier) const {
-  return platform::valueFromPropertyList(contents(settings(identifier))).value_or(Value());
+  return platform::valueFromPropertyList(platform::contentsOf(settings(identifier)))
+      .value_or(Value());
 }
 
 } // namespace wrenvale::tests

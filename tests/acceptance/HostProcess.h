@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "core/Value.h"
+#include "tests/platform/linux/TemporaryFolder.h"
 
 namespace wrenvale::tests {
 
@@ -23,22 +24,17 @@ struct Run {
 /// A user's home directory in a temporary folder, removed at the end.
 class Home {
 public:
-  Home();
-  ~Home();
-  Home(const Home&) = delete;
-  Home& operator=(const Home&) = delete;
-
   /// Runs a program to its end as this user, in an American English locale and without a display.
   Run run(const std::string& program, std::vector<std::string> arguments = {},
           const std::map<std::string, std::string>& environment = {}) const;
 
-  const std::filesystem::path& folder() const { return folder_; }
+  std::filesystem::path folder() const { return folder_.path(); }
   std::filesystem::path settings(const std::string& identifier) const;
   /// The settings as they are on disk; null when there is no readable file.
   Value defaults(const std::string& identifier) const;
 
 private:
-  std::filesystem::path folder_;
+  platform::TemporaryFolder folder_;
 };
 
 } // namespace wrenvale::tests

@@ -61,17 +61,6 @@ TEST(Rating, SessionsAreOnRecord) {
   }
 }
 
-TEST(Rating, CallsAreCountedAcrossRuns) {
-  const Home home;
-  doing(home, "export,quit");
-  doing(home, "export,quit");
-  doing(home, "export,dislike,contact,quit");
-  const auto defaults = home.defaults(kPhotoTool);
-  EXPECT_EQ(defaults.find("Version Counters"), Value(Value::Dictionary{{"1204", 3}}));
-  EXPECT_EQ(defaults.find("Version Ratings").find("1204").at(0).find("History"),
-            Value(Value::Array{2, 4}));
-}
-
 TEST(Rating, AnUpdateAsksAgainUnlessTheStoreWasVisited) {
   const std::pair<const char*, std::vector<Record>> rows[] = {
       {"ask,like,close,quit", {{{0}, true}}},

@@ -157,14 +157,6 @@ TEST_F(ServiceRating, AnOpenWindowIsBroughtForwardAndTheSecondHandlerDropped) {
   EXPECT_EQ(dropped, 0);
 }
 
-TEST_F(ServiceRating, RateAppAsksWhateverIsOnRecord) {
-  for (int session = 0; session < 2; ++session) {
-    service->rateApp();
-    window().pressClose();
-  }
-  EXPECT_EQ(records(), Value(A{record({0}, false), record({0}, false)}));
-}
-
 TEST_F(ServiceRating, ATriggerWithinAModalSessionMarksIt) {
   int dropped = 0;
   fake.rateWindows.duringModal = [&] {

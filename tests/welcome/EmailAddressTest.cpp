@@ -9,37 +9,10 @@
 namespace wrenvale::welcome {
 namespace {
 
-TEST(EmailAddress, IsCheckedAsAWhole) {
-  using std::string_literals::operator""s;
-  const struct {
-    std::string text;
-    bool accepted;
-  } rows[] = {
-      {"ann.lee_%+-9@mail.example.com", true},
-      {"a.b+tag@one.two.three.info", true},
-      {"a@b.co", true},
-      {"a@-..de", true},
-      {"", false},
-      {"a@b.museum", false},
-      {"a@b.c", false},
-      {"a@localhost", false},
-      {"a.b@com", false},
-      {"@b.de", false},
-      {"a@b@c.de", false},
-      {"ann lee@b.de", false},
-      {" a@b.de", false},
-      {"a@b.de\n", false},
-      {"a@b.de\0"s, false},
-      {"\xC3\xA9@b.de", false},
-  };
-  for (const auto& row : rows)
-    EXPECT_EQ(isEmailAddress(row.text), row.accepted) << row.text;
-}
-
-TEST(EmailAddress, AgreesWithThePattern) {
+TEST(EmailAddress, IsWhatThePatternMatches) {
   const std::regex pattern("[A-Z0-9a-z._%+-]+@[A-Za-z0-9.-]+\\.[A-Za-z]{2,4}");
-  const std::string pieces[] = {"a",   "Zz", "7",    ".", "..", "@",   "-",
-                                "_%+", "de", "comm", " ", "\n", "\xE9"};
+  const std::string pieces[] = {"a",   "Zz", "7",    ".", "..", "@",    "-",
+                                "_%+", "de", "comm", " ", "\n", "\xE9", std::string(1, '\0')};
   std::mt19937 random(1);
   int accepted = 0;
   for (int i = 0; i < 20'000; ++i) {

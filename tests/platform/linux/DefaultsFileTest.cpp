@@ -1,8 +1,6 @@
 #include "platform/linux/DefaultsFile.h"
 
 #include <csignal>
-#include <fstream>
-#include <iterator>
 #include <set>
 
 #include <fcntl.h>
@@ -26,11 +24,6 @@ using State = DefaultsContent::State;
 
 FileLock::Deadline soon() {
   return std::chrono::steady_clock::now() + std::chrono::seconds(10);
-}
-
-std::string contentOf(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
 }
 
 std::string listOf(const Value::Dictionary& items) {
@@ -187,9 +180,9 @@ TEST_F(DefaultsFileTest, keepsEveryByteOfEachDamagedFile) {
   put("first");
   put("second");
   put("third");
-  EXPECT_EQ(contentOf(path_ + ".damaged"), "first");
-  EXPECT_EQ(contentOf(path_ + ".damaged-2"), "second");
-  EXPECT_EQ(contentOf(path_ + ".damaged-3"), "third");
+  EXPECT_EQ(contentsOf(path_ + ".damaged"), "first");
+  EXPECT_EQ(contentsOf(path_ + ".damaged-2"), "second");
+  EXPECT_EQ(contentsOf(path_ + ".damaged-3"), "third");
 }
 
 TEST_F(DefaultsFileTest, staysWholeWhenTheDiskIsFull) {
@@ -201,7 +194,7 @@ TEST_F(DefaultsFileTest, staysWholeWhenTheDiskIsFull) {
       const FullDisk fullDisk(room);
       EXPECT_FALSE(merge({{"k", large}})) << room;
     }
-    EXPECT_EQ(contentOf(path_), old) << room;
+    EXPECT_EQ(contentsOf(path_), old) << room;
     EXPECT_FALSE(fs::exists(path_ + ".new")) << room;
 
     folder_.write("/config/com.example.host/defaults.plist", "damaged");
@@ -209,7 +202,7 @@ TEST_F(DefaultsFileTest, staysWholeWhenTheDiskIsFull) {
       const FullDisk fullDisk(room);
       EXPECT_FALSE(merge({{"k", large}})) << room;
     }
-    EXPECT_EQ(contentOf(path_), "damaged") << room;
+    EXPECT_EQ(contentsOf(path_), "damaged") << room;
   }
   EXPECT_TRUE(merge({{"k", large}}));
 }
@@ -236,7 +229,7 @@ TEST_F(DefaultsFileTest, leavesAloneWhatItMayNotReadOrReplace) {
     EXPECT_FALSE(merge({{"k", "new"}}));
   }
   chmod(folder.c_str(), 0755);
-  EXPECT_EQ(contentOf(path_), list);
+  EXPECT_EQ(contentsOf(path_), list);
 }
 
 TEST_F(DefaultsFileTest, leavesOutOnlyWhatDoesNotFit) {
@@ -281,7 +274,7 @@ TEST_F(DefaultsFileTest, cannotBeMadeWhereAFileIsInTheWay) {
   folder_.write("/config", "a file");
   EXPECT_FALSE(merge({{"k", 1}}));
   EXPECT_EQ(file_.read().state, State::blocked);
-  EXPECT_EQ(contentOf(folder_.path("/config")), "a file");
+  EXPECT_EQ(contentsOf(folder_.path("/config")), "a file");
 }
 
 TEST(DefaultsPath, isBelowTheConfigurationFolder) {

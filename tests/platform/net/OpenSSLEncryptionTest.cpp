@@ -6,28 +6,22 @@
 #include <openssl/pem.h>
 #include <openssl/rsa.h>
 
-#include <fstream>
-#include <sstream>
 #include <thread>
 #include <vector>
+
+#include "tests/platform/linux/TemporaryFolder.h"
 
 namespace wrenvale::platform {
 
 namespace {
 
-std::string contents(const char* path) {
-  std::ostringstream text;
-  text << std::ifstream(path).rdbuf();
-  return text.str();
-}
-
 std::string developmentKey() {
-  return contents(WRENVALE_DEVELOPMENT_PUBLIC_KEY);
+  return contentsOf(WRENVALE_DEVELOPMENT_PUBLIC_KEY);
 }
 
 // What the maker's server reads.
 std::string decrypted(const std::string& block) {
-  const auto pem = contents(WRENVALE_DEVELOPMENT_PRIVATE_KEY);
+  const auto pem = contentsOf(WRENVALE_DEVELOPMENT_PRIVATE_KEY);
   auto* bio = BIO_new_mem_buf(pem.data(), static_cast<int>(pem.size()));
   auto* key = PEM_read_bio_PrivateKey(bio, nullptr, nullptr, nullptr);
   auto* context = EVP_PKEY_CTX_new(key, nullptr);
@@ -95,7 +89,7 @@ TEST(OpenSSLEncryption, RefusesWhatIsNoPublicRSAKey) {
       {"broken structure", flipped},
       {"other block", otherType},
       {"wants a password", encryptedBlock},
-      {"private key", contents(WRENVALE_DEVELOPMENT_PRIVATE_KEY)},
+      {"private key", contentsOf(WRENVALE_DEVELOPMENT_PRIVATE_KEY)},
       {"elliptic curve", publicPEM(EVP_EC_gen("P-256"))},
       {"signatures only", publicPEM(EVP_PKEY_Q_keygen(nullptr, nullptr, "ED25519"))},
   };
