@@ -13,10 +13,6 @@ std::string FakeLocalization::localizedStringForKey(std::string_view key,
   return found == strings.end() ? std::string(key) : found->second;
 }
 
-void FakeApplication::observeDidFinishLaunching(std::function<void()> handler) {
-  launchHandlers_.push_back(std::move(handler));
-}
-
 void FakeApplication::activateIgnoringOtherApps(bool) {
   ++activations;
 }
@@ -24,11 +20,6 @@ void FakeApplication::activateIgnoringOtherApps(bool) {
 bool FakeApplication::registerFont(std::string_view resource, std::string_view extension) {
   fonts.push_back(std::string(resource) + "." + std::string(extension));
   return hasFonts;
-}
-
-void FakeApplication::finishLaunching() {
-  for (const auto& handler : std::exchange(launchHandlers_, {}))
-    handler();
 }
 
 bool FakeWorkspace::openURL(std::string_view url) {

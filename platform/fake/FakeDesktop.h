@@ -30,22 +30,17 @@ struct FakeTermination {
 
 class FakeApplication : public Application {
 public:
-  void observeDidFinishLaunching(std::function<void()> handler) override;
+  /// Tests launch their service themselves.
+  void observeDidFinishLaunching(std::function<void()>) override {}
   void activateIgnoringOtherApps(bool flag) override;
   void beep() override { ++beeps; }
   bool registerFont(std::string_view resource, std::string_view extension) override;
   [[noreturn]] void terminate(int status) override { throw FakeTermination{status}; }
 
-  /// The host's launch event.
-  void finishLaunching();
-
   int activations = 0;
   int beeps = 0;
   bool hasFonts = true;
   std::vector<std::string> fonts; ///< file names asked for, in order
-
-private:
-  std::vector<std::function<void()>> launchHandlers_;
 };
 
 class FakeWorkspace : public Workspace {

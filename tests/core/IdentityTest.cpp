@@ -41,7 +41,8 @@ TEST_F(Identity, ComesFromTheInfoDictionary) {
 }
 
 TEST_F(Identity, SurvivesInfoValuesOfOddTypes) {
-  const Value odd[] = {Value(), Value::Array{1}, Value::Dictionary{}, true, Date(), Data{std::byte{9}}};
+  const Value odd[] = {Value(), Value::Array{1}, Value::Dictionary{},
+                       true,    Date(),          Data{std::byte{9}}};
   for (const auto& value : odd) {
     for (auto& [key, info] : fake.mainBundle.info)
       info = value;

@@ -1,9 +1,6 @@
 #include "platform/linux/PropertyList.h"
 
-#include <cmath>
 #include <limits>
-#include <memory>
-#include <random>
 
 #include <gtest/gtest.h>
 #include <plist/plist.h>
@@ -190,6 +187,7 @@ TEST(PropertyList, survivesMalformedAndMaliciousLists) {
       {"table in the magic", changed(1, 0)},
       {"table behind the end", changed(1, 99)},
       {"null", binaryList({std::string(1, '\0')})},
+      {"no type", binaryList({"\x70"})},
       {"array in itself", binaryList({std::string("\xA1\0", 2)})},
       {"two arrays in each other", binaryList({"\xA1\1", std::string("\xA1\0", 2)})},
       {"reference to nowhere", binaryList({"\xA1\x05"})},
