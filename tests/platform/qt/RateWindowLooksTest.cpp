@@ -4,8 +4,8 @@
 #include <map>
 
 #include <QLabel>
+#include <QTranslator>
 
-#include "GermanTranslator.h"
 #include "platform/qt/FaceDrawing.h"
 #include "platform/qt/KVXButton.h"
 
@@ -140,16 +140,26 @@ TEST_F(QtRateWindowLooksTest, EveryStateOfAButtonIsReadableAndDifferent) {
   }
 }
 
+// A language that says everything three times.
+class LongTranslator final : public QTranslator {
+public:
+  bool isEmpty() const override { return false; }
+  QString translate(const char* context, const char* source, const char*, int) const override {
+    return QLatin1String(context) == "Wrenvale" ? QString(source + QLatin1Char(' ')).repeated(3)
+                                                : "";
+  }
+};
+
 TEST_F(QtRateWindowLooksTest, GrowsWithItsTexts) {
-  GermanTranslator german;
+  LongTranslator translator;
   QWidget parent;
   openOver(parent);
   const QSize english = widget()->size();
-  QCoreApplication::installTranslator(&german);
+  QCoreApplication::installTranslator(&translator);
   QCoreApplication::sendPostedEvents();
   QTest::qWait(0);
   EXPECT_GT(widget()->width(), english.width());
-  EXPECT_EQ(widget()->windowTitle(), "Photo Tool bewerten");
+  EXPECT_EQ(widget()->windowTitle().trimmed(), "Rate Photo Tool Rate Photo Tool Rate Photo Tool");
   for (const auto view : {RateView::kRate, RateView::kAppstore, RateView::kContact}) {
     window_->setView(view, false);
     for (const auto* text : widget()->findChildren<QWidget*>()) {
@@ -163,7 +173,7 @@ TEST_F(QtRateWindowLooksTest, GrowsWithItsTexts) {
       }
     }
   }
-  QCoreApplication::removeTranslator(&german);
+  QCoreApplication::removeTranslator(&translator);
 }
 
 } // namespace
