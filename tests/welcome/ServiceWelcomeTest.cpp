@@ -12,8 +12,9 @@ protected:
     return start();
   }
 
-  /// Serves a document with one application that has alert text.
+  /// Serves this document alone, with one application that has alert text.
   void serveRecommendations(const std::string& variant) {
+    fake.urlLoading.answers.clear();
     fake.urlLoading.answers["http://vendor.example/store/recommender_US_en" + variant + ".json"] =
         "document";
     const Value::Dictionary host{{"bundle_id", "com.example.host"}, {"build_number", 120}};
@@ -109,7 +110,8 @@ TEST_F(ServiceWelcome, TheNewsletterWindowOwesNothing) {
   EXPECT_EQ(window().title, "Newsletter Subscription");
   EXPECT_EQ(fake.application.activations, 1);
   fake.queues.runAll();
-  EXPECT_EQ(fetches(), 1U);
+  ASSERT_EQ(fetches(), 1U);
+  EXPECT_EQ(fake.urlLoading.requests[0].url, "http://vendor.example/store/recommender_US_en.json");
   window().startPage();
   window().call("showWindow");
   EXPECT_EQ(window().call("updating"), Value(false));
