@@ -44,6 +44,15 @@ TEST_F(ServiceReset, ReturnsAtOnceAndAsksTheServerInTheBackground) {
   EXPECT_EQ(request.headers.front().second, *service->userAgent());
 }
 
+TEST_F(ServiceReset, FirstRunRemembersTheGenerationAndForcesNothing) {
+  start();
+  check();
+  EXPECT_EQ(stored(keys::kRecommenderLastVersion), Value(120));
+  EXPECT_EQ(stored(keys::kRecommenderResetNumber), Value(4));
+  EXPECT_TRUE(stored(keys::kShowUpdateWindow).isNull());
+  EXPECT_TRUE(service->triggerWelcomeWindow()) << "still the first run";
+}
+
 TEST_F(ServiceReset, TheBuildIsRememberedBeforeTheDownload) {
   startAfterBuild(119);
   Value during;

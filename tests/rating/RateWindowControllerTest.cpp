@@ -135,5 +135,14 @@ TEST_F(RateWindowController, LoadsTheWindowOnceAndPushesLaterViews) {
   EXPECT_FALSE(controller->triggered());
 }
 
+TEST_F(RateWindowController, TextsCarryTheTranslatedName) {
+  EXPECT_EQ(begin().appName, "Photo Tool");
+  fake.localization.info["CFBundleName"] = "Fotowerkzeug";
+  EXPECT_EQ(begin().appName, "Fotowerkzeug");
+  fake.localization.info.clear();
+  fake.mainBundle.info.clear();
+  EXPECT_EQ(begin().appName, "");
+}
+
 } // namespace
 } // namespace wrenvale
