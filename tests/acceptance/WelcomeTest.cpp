@@ -37,7 +37,7 @@ protected:
                        [](const auto& request) { return request.path == kPage; });
   }
 
-  const Home home_;
+  const Home home_{};
   std::atomic<bool> shows_ = false; // the page, itself
   const VendorServer server_{[this](const auto& request, httplib::Response& response) {
     if (request.path != kPage) return response.set_content("[]", "application/json");
