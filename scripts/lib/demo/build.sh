@@ -2,6 +2,8 @@
 # maker would.
 
 readonly prefix=$demo/prefix
+# Every checkout's demo has a server port of its own, so that several can run at a time.
+readonly vendor_base=http://127.0.0.1:$((32000 + $(cksum <<<"$demo" | cut -d' ' -f1) % 700))
 
 # Runs a command whose output is only of interest when it fails.
 quietly() { # command...
@@ -15,7 +17,8 @@ build_wrenvale() {
   progress "Wrenvale: the library and the maker's kit"
   [ -d "$demo/wrenvale" ] || echo "the first build takes a few minutes"
   quietly cmake --preset dev -B "$demo/wrenvale" -DWRENVALE_BUILD_TESTS=OFF \
-    -DWRENVALE_BUILD_BENCHMARKS=OFF -DWRENVALE_BUILD_EXAMPLES=OFF
+    -DWRENVALE_BUILD_BENCHMARKS=OFF -DWRENVALE_BUILD_EXAMPLES=OFF \
+    -DWRENVALE_VENDOR_BASE="$vendor_base"
   quietly cmake --build "$demo/wrenvale"
   quietly cmake --install "$demo/wrenvale" --prefix "$prefix"
   echo "installed in ${prefix#"$PWD/"}"
