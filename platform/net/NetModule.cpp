@@ -2,16 +2,16 @@
 
 #include <wrenvale/Export.h>
 
+#include "platform/net/CurlURLLoading.h"
 #include "platform/net/JSONReader.h"
 #include "platform/net/OpenSSLEncryption.h"
-#include "platform/net/QtURLLoading.h"
 
 namespace wrenvale::platform {
 
 namespace {
 
 struct Parts {
-  QtURLLoading urlLoading;
+  CurlURLLoading urlLoading;
   OpenSSLEncryption encryption;
   JSONReader json;
   NetModule module{.urlLoading = urlLoading, .encryption = encryption, .json = json};

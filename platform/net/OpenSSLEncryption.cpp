@@ -9,10 +9,8 @@
 
 #include <limits>
 #include <memory>
-#include <stop_token>
 
 #include "platform/net/CryptoSetUp.h"
-#include "platform/net/ExitGate.h"
 
 namespace wrenvale::platform {
 
@@ -29,24 +27,6 @@ template <class Type>
 using Owned = std::unique_ptr<Type, Free>;
 
 constexpr std::int16_t kUnknownError = -1;
-
-// A stay inside the library. The library creates what its end destroys when it is set up, so the
-// gate is armed once, after that.
-class Stay {
-public:
-  Stay()
-      : pass_(readyGate(), stop_) {}
-  bool isGranted() const { return pass_.isGranted(); }
-
-private:
-  static RequestGate& readyGate() {
-    [[maybe_unused]] static const bool armed = (setUpCrypto(), armExitGate(), true);
-    return exitGate();
-  }
-
-  std::stop_source stop_;
-  const RequestGate::Pass pass_;
-};
 
 // An encrypted block has no password to ask anybody for.
 int refusePassword(char*, int, int, void*) {
@@ -98,8 +78,6 @@ public:
       : key_(std::move(key)) {}
 
   std::optional<std::string> encrypt(std::string_view plaintext) const override {
-    const Stay stay;
-    if (!stay.isGranted()) return std::nullopt;
     auto block = encrypted(*key_, plaintext);
     if (!block) ERR_clear_error();
     return block;
@@ -112,8 +90,7 @@ private:
 } // namespace
 
 ImportedKey OpenSSLEncryption::importPublicKey(std::string_view pem) {
-  const Stay stay;
-  if (!stay.isGranted()) return {};
+  setUpCrypto();
   ERR_clear_error();
   auto key = keyFromPEM(pem);
   if (!key || !isRSA(*key)) return {.status = takeError(), .key = nullptr};

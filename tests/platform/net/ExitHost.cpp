@@ -1,12 +1,9 @@
 // A host that ends while its background threads are inside the net module.
 //
-//   wrenvale_net_exit_host <module> <way out> <milliseconds until then> <address>
+//   wrenvale_net_exit_host <module> <milliseconds until then> <address>
 //
-// The threads keep downloading the address, or encrypting when it is a key. The way out is "return"
-// (from main, the application object destroyed first), "exit" (from inside the event loop), "leak"
-// (from main, the application object left behind) or "bare" (there never was an application
-// object). What it prints is the time at which the end began, in nanoseconds of the monotonic
-// clock.
+// The threads keep downloading the address, or encrypting when it is a key. Prints the time at
+// which the end began, in nanoseconds of the monotonic clock.
 
 #include <dlfcn.h>
 #include <netdb.h>
@@ -17,9 +14,6 @@
 #include <cstdlib>
 #include <string_view>
 #include <thread>
-
-#include <QCoreApplication>
-#include <QTimer>
 
 #include "platform/Encryption.h"
 #include "platform/NetModule.h"
@@ -56,32 +50,14 @@ void workForEver(const char* modulePath, std::string_view address) {
   }
 }
 
-void announceEnd() {
-  const auto now = std::chrono::steady_clock::now().time_since_epoch();
-  std::printf("%lld\n", static_cast<long long>(std::chrono::nanoseconds(now).count()));
-  std::fflush(stdout);
-}
-
 } // namespace
 
 int main(int argc, char** argv) {
-  if (argc != 5) return 2;
-  const std::string_view wayOut = argv[2];
-  const std::chrono::milliseconds delay(std::atoll(argv[3]));
-  auto* application = wayOut == "bare" ? nullptr : new QCoreApplication(argc, argv);
+  if (argc != 4) return 2;
   for (int i = 0; i < kThreads; ++i)
-    std::thread(workForEver, argv[1], argv[4]).detach();
-  if (application) {
-    QTimer::singleShot(delay, [&] {
-      if (wayOut != "exit") return QCoreApplication::quit();
-      announceEnd();
-      std::exit(0);
-    });
-    QCoreApplication::exec();
-  } else {
-    std::this_thread::sleep_for(delay);
-  }
-  announceEnd();
-  if (wayOut == "return") delete application;
+    std::thread(workForEver, argv[1], argv[3]).detach();
+  std::this_thread::sleep_for(std::chrono::milliseconds(std::atoll(argv[2])));
+  const auto now = std::chrono::steady_clock::now().time_since_epoch();
+  std::printf("%lld\n", static_cast<long long>(std::chrono::nanoseconds(now).count()));
   return 0;
 }

@@ -1,23 +1,23 @@
-// Downloads over TLS: the client connects to an address, but the certificate is for the host's
-// name.
+// Downloads over TLS.
 
 #include <gtest/gtest.h>
 
 #include <netinet/in.h>
+#include <openssl/pem.h>
 #include <openssl/ssl.h>
 #include <openssl/x509v3.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <csignal>
+#include <cstdlib>
 #include <future>
 #include <memory>
 #include <mutex>
 #include <thread>
 
-#include <QSslCertificate>
-#include <QSslConfiguration>
-
-#include "platform/net/QtURLLoading.h"
+#include "platform/net/CurlURLLoading.h"
+#include "tests/platform/linux/TemporaryFolder.h"
 #include "tests/platform/net/LoopbackServer.h"
 
 namespace wrenvale::platform {
@@ -46,14 +46,6 @@ Certificate certificateFor(EVP_PKEY* key) {
   return certificate;
 }
 
-QSslCertificate toQt(X509* certificate) {
-  unsigned char* bytes = nullptr;
-  const int size = i2d_X509(certificate, &bytes);
-  const QByteArray der(reinterpret_cast<const char*>(bytes), size);
-  OPENSSL_free(bytes);
-  return QSslCertificate(der, QSsl::Der);
-}
-
 // Gives every client the same answer, over TLS, on a port of 127.0.0.1.
 class TLSServer {
 public:
@@ -62,6 +54,7 @@ public:
       , key_(EVP_EC_gen("P-256"), &EVP_PKEY_free)
       , certificate_(certificateFor(key_.get()))
       , context_(SSL_CTX_new(TLS_server_method())) {
+    std::signal(SIGPIPE, SIG_IGN); // a client that mistrusts the server leaves at once
     SSL_CTX_use_certificate(context_, certificate_.get());
     SSL_CTX_use_PrivateKey(context_, key_.get());
     sockaddr_in address{};
@@ -85,7 +78,7 @@ public:
   std::string url(const std::string& host) const {
     return "https://" + host + ":" + std::to_string(port_) + "/";
   }
-  QSslCertificate certificate() const { return toQt(certificate_.get()); }
+  X509* certificate() const { return certificate_.get(); }
   /// The name that the last client asked for.
   std::string serverName() const {
     const std::lock_guard lock(mutex_);
@@ -121,27 +114,29 @@ private:
 };
 
 std::optional<std::string> loaded(const std::string& url) {
-  QtURLLoading loading;
+  CurlURLLoading loading;
   return std::async(std::launch::async,
                     [&] { return loading.sendSynchronousRequest({.url = url}); })
       .get();
 }
 
-// The host's TLS settings while this lives: the certificate is good for what it says.
+// While this lives, the certificate is good for what it says and no other is.
 class Trust {
 public:
-  explicit Trust(const QSslCertificate& certificate) {
-    auto settings = before_;
-    settings.addCaCertificate(certificate);
-    QSslConfiguration::setDefaultConfiguration(settings);
+  explicit Trust(X509* certificate) {
+    const auto path = folder_.path("trusted.pem");
+    auto* file = BIO_new_file(path.c_str(), "w");
+    PEM_write_bio_X509(file, certificate);
+    BIO_free(file);
+    setenv("SSL_CERT_FILE", path.c_str(), 1);
   }
-  ~Trust() { QSslConfiguration::setDefaultConfiguration(before_); }
+  ~Trust() { unsetenv("SSL_CERT_FILE"); }
 
 private:
-  const QSslConfiguration before_ = QSslConfiguration::defaultConfiguration();
+  const TemporaryFolder folder_;
 };
 
-TEST(TLS, TrustsTheHostsCertificatesForTheNameThatWasAskedFor) {
+TEST(TLS, TrustsTheSystemsCertificatesForTheNameThatWasAskedFor) {
   const TLSServer server(answerWith("secret"));
   EXPECT_EQ(loaded(server.url("localhost")), std::nullopt) << "nobody vouches for it yet";
   const Trust trust(server.certificate());
