@@ -23,7 +23,9 @@ KVXWrenvale::KVXWrenvale(const platform::Platform& platform, BuildConfiguration 
     : _platform(platform)
     , _configuration(std::make_unique<const BuildConfiguration>(std::move(configuration)))
     , _endpoints(std::make_unique<const Endpoints>(*_configuration))
-    , _firstRun(platform.userDefaults.objectForKey(keys::kRecommenderLastVersion).isNull())
+    // A host without an identifier keeps nothing, so each of its runs would be the first.
+    , _firstRun(bundleID() &&
+                platform.userDefaults.objectForKey(keys::kRecommenderLastVersion).isNull())
     , _loadQueue(platform.queues.makeSerialQueue())
     , _localeSuffix(localeSuffix(platform.locale))
     , _machineModel(platform.kernel.sysctlbyname("hw.model"))
@@ -85,6 +87,7 @@ void KVXWrenvale::launchHandler() {
   guarded([&] {
     _platform.application.registerFont("DroidSans-Regular", "ttf");
     fileEarlierStoreRating();
+    _launchHandled = true;
     reset();
   });
 }

@@ -38,8 +38,11 @@ void removeAfterAnimation(const SharedOverlay& overlay, platform::Queue& mainQue
 
 } // namespace
 
-bool KVXWrenvale::mayAskForRating() const {
+// Before the host's launch is handled, a trigger does that part of it which decides.
+bool KVXWrenvale::mayAskForRating() {
   return guarded([&] {
+    if (!bundleID()) return false; // the answer could not be kept
+    if (!_launchHandled) fileEarlierStoreRating();
     const Value ratings = _platform.userDefaults.objectForKey(keys::kVersionRatings);
     return !rating::hasEntry(ratings, versionString());
   });
@@ -77,21 +80,28 @@ bool KVXWrenvale::triggerRatingWithWindow(HostWindow* window, std::int64_t count
 bool KVXWrenvale::triggerRatingWithModalAlert() {
   if (_askingByAlert || !mayAskForRating()) return false;
   _askingByAlert = true;
-  guarded([&] { askByAlert(); });
+  const bool shown = guarded([&] { return askByAlert(); });
   _askingByAlert = false;
-  return true;
+  return shown;
 }
 
-// That the alert was shown is on disk before it is, should the host not survive it.
-void KVXWrenvale::askByAlert() {
+bool KVXWrenvale::askByAlert() {
   _platform.application.activateIgnoringOtherApps(true);
   const auto alert = rating::ratingAlert(
       stringValue(_platform.mainBundle.objectForInfoDictionaryKey(info::kName)));
-  guarded([&] { _platform.userDefaults.setObject(versionString(), keys::kRateVersion); });
-  _platform.userDefaults.synchronize();
-  const int answer = _platform.alerts.runModal(alert);
-  if (answer == platform::kAlertDefaultReturn) openAppstoreForApp();
-  _storeRateHistory(rating::historyForAnswer(answer), _platform.clock.now(), true);
+  // The host may crash while the alert is up.
+  const auto remember = [this] {
+    guarded([&] {
+      _platform.userDefaults.setObject(versionString(), keys::kRateVersion);
+      _platform.userDefaults.synchronize();
+    });
+  };
+  const auto answer = _platform.alerts.runModal(alert, remember);
+  if (!answer) return false;
+  if (*answer == platform::kAlertDefaultReturn) openAppstoreForApp();
+  guarded(
+      [&] { _storeRateHistory(rating::historyForAnswer(*answer), _platform.clock.now(), true); });
+  return true;
 }
 
 void KVXWrenvale::rateApp() {

@@ -1,6 +1,8 @@
 // The one instance of a process, and its creation when the library is loaded. Part of the library
 // only, not of the logic: this is the one place where the built-in platform comes in.
 
+#include <cstdio>
+
 #include <wrenvale/HostInfo.h>
 #include <wrenvale/KVXWrenvale.h>
 #include <wrenvale/KVXWrenvaleController.h>
@@ -29,6 +31,13 @@ KVXWrenvaleController::KVXWrenvaleController()
 
 void KVXWrenvale::load() {
   auto& instance = sharedInstance();
+#ifndef NDEBUG
+  if (!instance.bundleID())
+    std::fputs("Wrenvale: the host has no \"CFBundleIdentifier\", so nothing is kept and nobody is "
+               "asked. Name an "
+               "Info dictionary with wrenvale_host().\n",
+               stderr);
+#endif
   platform::builtInPlatform().application.observeDidFinishLaunching(
       [&instance] { instance.launchHandler(); });
 }

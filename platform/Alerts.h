@@ -3,6 +3,7 @@
 #ifndef WRENVALE_PLATFORM_ALERTS_H
 #define WRENVALE_PLATFORM_ALERTS_H
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -30,9 +31,11 @@ class Alerts {
 public:
   virtual ~Alerts() = default;
 
-  /// Shows the alert on its own and returns its answer. Without windows to show it in, or when the
-  /// application quits meanwhile, the answer is as if the alert had been closed.
-  virtual int runModal(const Alert& alert) = 0;
+  /// Calls `willShow`, shows the alert on its own and returns its answer. When the application
+  /// quits meanwhile, the answer is as if the alert had been closed. Nothing, and `willShow` not
+  /// called, in a process without windows to show it in.
+  virtual std::optional<int> runModal(const Alert& alert,
+                                      const std::function<void()>& willShow) = 0;
 };
 
 } // namespace wrenvale::platform

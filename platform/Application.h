@@ -13,8 +13,9 @@ class Application {
 public:
   virtual ~Application() = default;
 
-  /// Calls `handler` once, on the main thread, when the host has finished launching. May be called
-  /// before `main`, and before the host has created any application object.
+  /// Calls `handler` once, on the main thread, when the host has finished launching: before
+  /// anything that the host queued for its event loop. May be called before `main`, and before the
+  /// host has created any application object.
   virtual void observeDidFinishLaunching(std::function<void()> handler) = 0;
 
   virtual void activateIgnoringOtherApps(bool flag) = 0;
@@ -24,8 +25,9 @@ public:
   /// when there is no such resource, or no windows to show text in.
   virtual bool registerFont(std::string_view resource, std::string_view extension) = 0;
 
-  /// Ends the process at once with this exit status; what was written to the user defaults is
-  /// durable first. Any thread.
+  /// Ends the process with this exit status, within about a second whatever its other threads do.
+  /// What was written to the user defaults is made durable first, if that takes no longer. Any
+  /// thread.
   [[noreturn]] virtual void terminate(int status) = 0;
 };
 

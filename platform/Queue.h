@@ -3,6 +3,7 @@
 #ifndef WRENVALE_PLATFORM_QUEUE_H
 #define WRENVALE_PLATFORM_QUEUE_H
 
+#include <cstddef>
 #include <functional>
 #include <memory>
 
@@ -13,11 +14,15 @@ class Queue {
 public:
   using Task = std::function<void()>;
 
+  /// More are dropped, as nobody means so many: a page's script that never stops, say, would fill
+  /// the memory of its host.
+  static constexpr std::size_t kMostWaiting = 1000;
+
   virtual ~Queue() = default;
 
   /// Runs `task` later, never within this call. An exception that the task throws is dropped; a
-  /// task that has not begun when the process ends is dropped too, and so is one that comes while a
-  /// thousand are waiting.
+  /// task that has not begun when the process ends is dropped too, and so is one that comes while
+  /// kMostWaiting others wait.
   virtual void async(Task task) = 0;
 };
 

@@ -3,6 +3,7 @@
 #ifndef WRENVALE_PLATFORM_USERDEFAULTS_H
 #define WRENVALE_PLATFORM_USERDEFAULTS_H
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <string_view>
@@ -31,8 +32,9 @@ public:
 
   void removeObjectForKey(std::string_view key) { setObject(Value(), key); }
 
-  /// Waits until everything written so far is durable; false when it could not be made so.
-  virtual bool synchronize() = 0;
+  /// Waits until everything written so far is durable; false when it could not be made so, or
+  /// another process keeps it from that for longer than `patience`.
+  virtual bool synchronize(std::chrono::milliseconds patience = std::chrono::seconds(10)) = 0;
 
   /// Calls `observer` after each change of `key` made by this process, on the thread that made it,
   /// and after one made by another process, on the thread that noticed it.

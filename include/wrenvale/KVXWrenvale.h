@@ -141,8 +141,8 @@ public:
   bool triggerRatingWithWindow(HostWindow* window, std::int64_t count,
                                CompletitionHandler completitionHandler);
   /// Asks with a plain alert and leads to the store when the user agrees. True when it asked, and
-  /// then not before the answer. False when this build is not to be asked about, or while such an
-  /// alert is up.
+  /// then not before the answer. False when this build is not to be asked about, while such an
+  /// alert is up, or in a process without windows, which records nothing.
   bool triggerRatingWithModalAlert();
   /// Shows the rate window on its own, whatever is on record, or brings the open one to the front.
   void rateApp();
@@ -227,11 +227,11 @@ private:
   WRENVALE_HIDDEN void checkReset();
   WRENVALE_HIDDEN void applyReset(const ResetOutcome& outcome);
   WRENVALE_HIDDEN void oweUpdateWindow();
-  WRENVALE_HIDDEN bool mayAskForRating() const;
+  WRENVALE_HIDDEN bool mayAskForRating();
   WRENVALE_HIDDEN void bringRateWindowForward();
   WRENVALE_HIDDEN bool loadRateWindow(HostWindow* window, CompletitionHandler completitionHandler);
   WRENVALE_HIDDEN void fileSession(const KVXRateWindowController& controller);
-  WRENVALE_HIDDEN void askByAlert();
+  WRENVALE_HIDDEN bool askByAlert();
   WRENVALE_HIDDEN bool showUpdateWindow() const;
   WRENVALE_HIDDEN void openWelcomeWindow();
   WRENVALE_HIDDEN std::shared_ptr<KVXRecommenderWindowController>
@@ -249,6 +249,7 @@ private:
   const std::optional<std::string> _machineModel;
   const std::optional<std::string> _macAppstoreID;
 
+  bool _launchHandled = false;
   bool _welcomeTriggered = false;
   std::shared_ptr<KVXRateWindowController> _rateWindowController; // null when no window is open
   bool _askingByAlert = false;

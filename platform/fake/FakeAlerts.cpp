@@ -2,7 +2,9 @@
 
 namespace wrenvale::platform {
 
-int FakeAlerts::runModal(const Alert& alert) {
+std::optional<int> FakeAlerts::runModal(const Alert& alert, const std::function<void()>& willShow) {
+  if (!hasWindows) return std::nullopt;
+  willShow();
   shown.push_back(alert);
   if (duringModal) duringModal();
   return answer;

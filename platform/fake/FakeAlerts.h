@@ -12,8 +12,9 @@ namespace wrenvale::platform {
 
 class FakeAlerts : public Alerts {
 public:
-  int runModal(const Alert& alert) override;
+  std::optional<int> runModal(const Alert& alert, const std::function<void()>& willShow) override;
 
+  bool hasWindows = true;             ///< without, no alert is shown
   int answer = kAlertAlternateReturn; ///< to every alert
   std::function<void()> duringModal;  ///< what happens while an alert is up; may set `answer`
   std::vector<Alert> shown;           ///< every alert, in order

@@ -23,6 +23,10 @@ bool FakeApplication::registerFont(std::string_view resource, std::string_view e
 }
 
 bool FakeWorkspace::openURL(std::string_view url) {
+  while (!moments_.empty() && moments_.front() <= clock_.now() - std::chrono::seconds(2))
+    moments_.pop_front();
+  if (moments_.size() == 5) return false;
+  moments_.push_back(clock_.now());
   opened.emplace_back(url);
   return hasOpener;
 }

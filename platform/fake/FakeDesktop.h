@@ -3,12 +3,14 @@
 #ifndef WRENVALE_PLATFORM_FAKE_FAKEDESKTOP_H
 #define WRENVALE_PLATFORM_FAKE_FAKEDESKTOP_H
 
+#include <deque>
 #include <map>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "platform/Application.h"
+#include "platform/Clock.h"
 #include "platform/MainBundle.h"
 #include "platform/Workspace.h"
 
@@ -43,12 +45,20 @@ public:
   std::vector<std::string> fonts; ///< file names asked for, in order
 };
 
+/// Opens five addresses within any two seconds of its clock, as a real one does.
 class FakeWorkspace : public Workspace {
 public:
+  explicit FakeWorkspace(const Clock& clock)
+      : clock_(clock) {}
+
   bool openURL(std::string_view url) override;
 
   std::vector<std::string> opened;
   bool hasOpener = true;
+
+private:
+  const Clock& clock_;
+  std::deque<Date> moments_;
 };
 
 } // namespace wrenvale::platform

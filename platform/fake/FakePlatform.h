@@ -31,7 +31,7 @@ struct FakePlatform {
   FakeRandom random;
   FakeLocalization localization;
   FakeApplication application;
-  FakeWorkspace workspace;
+  FakeWorkspace workspace{clock};
   FakeQueues queues;
   FakeRateWindows rateWindows;
   FakeAlerts alerts;

@@ -18,6 +18,15 @@ private:
 
 } // namespace
 
+void FakeQueue::async(Task task) {
+  if (!hasEnded_ && tasks_.size() < kMostWaiting) tasks_.push_back(std::move(task));
+}
+
+void FakeQueue::end() {
+  hasEnded_ = true;
+  tasks_.clear();
+}
+
 bool FakeQueue::step() {
   if (tasks_.empty()) return false;
   const Task task = std::move(tasks_.front());
@@ -39,6 +48,11 @@ std::size_t FakeQueue::run() {
 
 std::unique_ptr<Queue> FakeQueues::makeSerialQueue() {
   return std::make_unique<ForwardingQueue>(serial);
+}
+
+void FakeQueues::endProcess() {
+  for (auto* queue : {&main, &global, &serial})
+    queue->end();
 }
 
 void FakeQueues::runAll() {

@@ -12,16 +12,19 @@ namespace wrenvale::platform {
 
 class FakeQueue : public Queue {
 public:
-  void async(Task task) override { tasks_.push_back(std::move(task)); }
+  void async(Task task) override;
 
   std::size_t size() const { return tasks_.size(); }
   /// Runs the oldest task; false when there was none.
   bool step();
   /// Runs tasks, the ones that they add too, until none is left; returns how many.
   std::size_t run();
+  /// The process ends: drops what waits, and whatever comes later.
+  void end();
 
 private:
   std::deque<Task> tasks_;
+  bool hasEnded_ = false;
 };
 
 class FakeQueues : public Queues {
@@ -33,6 +36,7 @@ public:
 
   /// Runs background tasks, then main-queue tasks, until all queues are empty.
   void runAll();
+  void endProcess();
 
   FakeQueue main;
   FakeQueue global;

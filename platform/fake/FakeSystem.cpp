@@ -45,7 +45,7 @@ std::optional<std::string> FakeURLLoading::sendSynchronousRequest(const URLReque
   requests.push_back(request);
   if (whileLoading) whileLoading();
   const auto found = answers.find(request.url);
-  return found == answers.end() ? std::nullopt : std::optional(found->second);
+  return cancelled_ || found == answers.end() ? std::nullopt : std::optional(found->second);
 }
 
 ImportedKey FakeEncryption::importPublicKey(std::string_view pem) {

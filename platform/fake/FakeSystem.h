@@ -77,11 +77,14 @@ private:
 class FakeURLLoading : public URLLoading {
 public:
   std::optional<std::string> sendSynchronousRequest(const URLRequest& request) override;
-  void cancelAllRequests() override { answers.clear(); }
+  void cancelAllRequests() override { cancelled_ = true; }
 
   std::map<std::string, std::string> answers;
   std::vector<URLRequest> requests;   ///< all that were sent, in order
   std::function<void()> whileLoading; ///< called during each request
+
+private:
+  bool cancelled_ = false; // for ever
 };
 
 /// "Encrypts" by putting the text between brackets, so that a test can read what was sent.

@@ -10,6 +10,7 @@ Value FakeUserDefaults::objectForKey(std::string_view key) const {
 }
 
 void FakeUserDefaults::setObject(Value value, std::string_view key) {
+  if (objectForKey(key) == value) return;
   if (value.isNull()) {
     if (const auto found = values.find(key); found != values.end()) values.erase(found);
   } else {
@@ -22,7 +23,7 @@ void FakeUserDefaults::setObject(Value value, std::string_view key) {
     observer();
 }
 
-bool FakeUserDefaults::synchronize() {
+bool FakeUserDefaults::synchronize(std::chrono::milliseconds) {
   if (diskFull) return false;
   durable_ = values;
   return true;

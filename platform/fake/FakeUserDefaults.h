@@ -14,7 +14,7 @@ class FakeUserDefaults : public UserDefaults {
 public:
   Value objectForKey(std::string_view key) const override;
   void setObject(Value value, std::string_view key) override;
-  bool synchronize() override;
+  bool synchronize(std::chrono::milliseconds patience = {}) override;
   ObserverID addObserver(std::string_view key, Observer observer) override;
   void removeObserver(ObserverID id) override;
 

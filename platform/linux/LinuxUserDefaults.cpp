@@ -107,9 +107,9 @@ void LinuxUserDefaults::setObject(Value value, std::string_view key) {
   notify(changedKeys);
 }
 
-bool LinuxUserDefaults::synchronize() {
+bool LinuxUserDefaults::synchronize(std::chrono::milliseconds patience) {
   Lock lock(mutex_);
-  return write(lock, Clock::now() + kPatience);
+  return write(lock, Clock::now() + patience);
 }
 
 LinuxUserDefaults::ObserverID LinuxUserDefaults::addObserver(std::string_view key,

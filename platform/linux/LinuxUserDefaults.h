@@ -46,7 +46,7 @@ public:
   void setObject(Value value, std::string_view key) override;
 
   /// Gives up after some seconds when another process that is stopped holds the file's lock.
-  bool synchronize() override;
+  bool synchronize(std::chrono::milliseconds patience = std::chrono::seconds(10)) override;
 
   ObserverID addObserver(std::string_view key, Observer observer) override;
   void removeObserver(ObserverID id) override;

@@ -13,10 +13,6 @@ namespace wrenvale::platform {
 /// Begins its tasks in the order in which they came. Keeps its threads only while it has tasks.
 class BackgroundQueue final : public Queue {
 public:
-  /// More are dropped, as nobody means so many: a page's script that never stops, say, would fill
-  /// the memory of its host.
-  static constexpr std::size_t kMostWaiting = 1000;
-
   /// `width`: how many tasks may run at the same time. `threads` outlive the queue, which its tasks
   /// may outlive.
   BackgroundQueue(BackgroundThreads& threads, int width);

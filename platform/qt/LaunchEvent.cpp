@@ -22,13 +22,13 @@ void launch() {
     handler();
 }
 
-// One turn of the main thread's dispatcher; inside a loop it is the host's launch. The handlers run
-// from the loop itself, not from within its dispatcher.
+// The main thread's dispatcher begins a turn; inside a loop that is the host's launch. Called
+// before the dispatcher looks at any event, so before everything that the host queued.
 void turn(QObject* connections) {
   if (QThread::currentThread()->loopLevel() == 0) return;
   connections->deleteLater();
   QObject::disconnect(QAbstractEventDispatcher::instance(), nullptr, connections, nullptr);
-  QMetaObject::invokeMethod(QCoreApplication::instance(), launch, Qt::QueuedConnection);
+  launch();
 }
 
 // Runs whenever the host has created an application object.

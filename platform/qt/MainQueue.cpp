@@ -26,7 +26,7 @@ private:
 
 void MainQueue::async(Task task) {
   const std::lock_guard lock(mutex_);
-  if (closed_) return;
+  if (closed_ || tasks_.size() >= kMostWaiting) return;
   tasks_.push_back(std::move(task));
   wake();
 }

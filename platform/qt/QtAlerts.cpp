@@ -9,8 +9,9 @@
 
 namespace wrenvale::platform {
 
-int QtAlerts::runModal(const Alert& alert) {
-  if (!hasWindows()) return AlertBox::closedAnswer(alert);
+std::optional<int> QtAlerts::runModal(const Alert& alert, const std::function<void()>& willShow) {
+  if (!hasWindows()) return std::nullopt;
+  willShow();
   const QPointer<AlertBox> box = new AlertBox(alert);
   box->exec();
   if (!box) return AlertBox::closedAnswer(alert);

@@ -11,7 +11,7 @@ namespace wrenvale::platform {
 /// counts as closing it without a button.
 class QtAlerts : public Alerts {
 public:
-  int runModal(const Alert& alert) override;
+  std::optional<int> runModal(const Alert& alert, const std::function<void()>& willShow) override;
 };
 
 } // namespace wrenvale::platform

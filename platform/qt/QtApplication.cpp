@@ -1,6 +1,6 @@
 #include "platform/qt/QtApplication.h"
 
-#include <cstdio>
+#include <chrono>
 #include <cstdlib>
 
 #include <QApplication>
@@ -9,6 +9,7 @@
 #include <QWidget>
 
 #include "platform/qt/LaunchEvent.h"
+#include "platform/qt/Toolkit.h"
 
 extern "C" {
 extern const unsigned char wrenvale_droid_sans[];
@@ -19,9 +20,7 @@ namespace wrenvale::platform {
 
 namespace {
 
-bool hasWindows() {
-  return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
-}
+constexpr std::chrono::seconds kPatienceAtTermination(1);
 
 QWidget* frontWindow() {
   if (auto* active = QApplication::activeWindow()) return active;
@@ -56,10 +55,11 @@ bool QtApplication::registerFont(std::string_view resource, std::string_view ext
   return QFontDatabase::addApplicationFontFromData(data) >= 0;
 }
 
-// Without the destructors of the host, which expect to run on its main thread.
+// Without the destructors of the host, which expect to run on its main thread, and without the
+// locks of its streams, which that thread may hold. The framework writes to standard error alone,
+// unbuffered.
 void QtApplication::terminate(int status) {
-  userDefaults_.synchronize();
-  std::fflush(nullptr);
+  userDefaults_.synchronize(kPatienceAtTermination);
   std::_Exit(status);
 }
 

@@ -1,5 +1,7 @@
 #include "platform/qt/QtDesktop.h"
 
+#include <algorithm>
+
 #include <QDesktopServices>
 #include <QGuiApplication>
 #include <QUrl>
@@ -12,6 +14,11 @@ namespace {
 
 std::string translation(std::string_view context, std::string_view key) {
   return translated(std::string(context).c_str(), std::string(key).c_str()).toStdString();
+}
+
+// Qt would take other characters too, and encode them.
+bool isASCII(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return c > ' ' && c < 0x7F; });
 }
 
 // Without a host the rest could be read as an address of another kind.
@@ -38,7 +45,7 @@ std::string QtLocalization::localizedStringForKey(std::string_view key,
 bool QtWorkspace::openURL(std::string_view url) {
   if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) return false;
   const QUrl address(fromUTF8(url), QUrl::StrictMode);
-  return mayOpen(address) && limit_.admits(std::chrono::steady_clock::now()) &&
+  return isASCII(url) && mayOpen(address) && limit_.admits(std::chrono::steady_clock::now()) &&
          QDesktopServices::openUrl(address);
 }
 

@@ -138,10 +138,12 @@ TEST(InspectingHost, FindsAllAsPromised) {
                           "libQt6Network: not mapped\n"
                           "libcrypto: not mapped\n"
                           "libssl: not mapped\n"
-                          "libwrenvale-net: not mapped\n");
+                          "libwrenvale-net: not mapped\n"
+                          "alert: not shown\n");
   // Forget the generation: the second launch is told of it anew, and the host sees the switch.
   auto defaults = home.defaults(kPlainHost);
   EXPECT_EQ(defaults.find("Purchases"), Value(Value::Array{"product.one"}));
+  EXPECT_TRUE(defaults.find("Rate Version").isNull() && defaults.find("Version Ratings").isNull());
   std::filesystem::remove(home.settings(kPlainHost));
   std::ofstream(home.settings(kPlainHost))
       << "<plist version=\"1.0\"><dict><key>Recommender Last Version</key><integer>7</integer>"
@@ -174,12 +176,32 @@ TEST(InspectingHost, EncryptsUnderTheEmbeddedKey) {
 }
 
 TEST(InspectingHost, ABrokenPublicKeyEndsTheProcess) {
-  const Home home;
-  const auto run = home.run(INSPECTING_HOST, {"encrypt"}, {{"LD_LIBRARY_PATH", BROKEN_KEY_FOLDER}});
-  EXPECT_EQ(run.status, 255);
-  EXPECT_TRUE(std::regex_match(
-      run.errors, std::regex("SecItemImport failed \\(oserr=-?[1-9][0-9]*\\)\n\\(null\\)\n")))
-      << run.errors;
+  for (const char* when : {"encrypt", "encrypt beside reader"}) {
+    const Home home;
+    const auto run = home.run(INSPECTING_HOST, {when}, {{"LD_LIBRARY_PATH", BROKEN_KEY_FOLDER}});
+    EXPECT_EQ(run.status, 255) << when;
+    EXPECT_TRUE(std::regex_match(
+        run.errors, std::regex("SecItemImport failed \\(oserr=-?[1-9][0-9]*\\)\n\\(null\\)\n")))
+        << run.errors;
+  }
+}
+
+// However early the host asks, a user who rated an earlier build in the store is not bothered.
+TEST(InspectingHost, NoTriggerComesBeforeTheLaunchWork) {
+  const VendorServer server{std::string("[]")};
+  for (const char* when : {"before the loop", "queued", "timer"}) {
+    for (const bool isRated : {false, true}) {
+      const Home home;
+      std::filesystem::create_directories(home.settings(kPlainHost).parent_path());
+      std::ofstream(home.settings(kPlainHost))
+          << "<plist version=\"1.0\"><dict><key>Version "
+             "Ratings</key><dict><key>6</key><array><dict>"
+             "<key>History</key><array><integer>"
+          << (isRated ? 3 : 0) << "</integer></array></dict></array></dict></dict></plist>";
+      const auto run = home.run(INSPECTING_HOST, {"ask", when});
+      EXPECT_EQ(run.output, isRated ? "rating: not asked\n" : "rating: asked\n") << when;
+    }
+  }
 }
 
 } // namespace

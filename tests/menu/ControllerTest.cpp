@@ -120,6 +120,7 @@ TEST_F(ControllerTest, EveryItemReachesItsOperationWithOrWithoutTheController) {
     if (!alive) controller.reset();
     for (const auto& row : rows) {
       const auto scope = std::string(row.action) + (alive ? "" : " without the controller");
+      fake.clock.advance(std::chrono::seconds(2));
       fake.workspace.opened.clear();
       fake.rateWindows.windows.clear();
       fake.recommenderWindows.windows.clear();

@@ -282,6 +282,18 @@ TEST_F(ServiceRating, TheAlertFilesItsAnswer) {
   EXPECT_EQ(fake.application.activations, static_cast<int>(std::size(rows)));
 }
 
+TEST_F(ServiceRating, WhatCannotBeShownOrKeptIsNotAsked) {
+  fake.alerts.hasWindows = false;
+  EXPECT_FALSE(service->triggerRatingWithModalAlert());
+  EXPECT_TRUE(fake.userDefaults.values.empty());
+  fake.alerts.hasWindows = true;
+  fake.mainBundle.info.erase("CFBundleIdentifier");
+  start();
+  EXPECT_FALSE(service->triggerRatingWithModalAlert());
+  EXPECT_FALSE(service->triggerRatingWithCompletitionHandler({}));
+  EXPECT_FALSE(service->triggerWelcomeWindow()) << "no run of it is the first";
+}
+
 TEST_F(ServiceRating, TheAlertSpeaksEnglishWithTheUntranslatedName) {
   fake.localization.info["CFBundleName"] = "Fotowerkzeug";
   service->triggerRatingWithModalAlert();

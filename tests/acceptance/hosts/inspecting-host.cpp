@@ -2,11 +2,15 @@
 // settings do. Prints one "name: value" line for each thing that it finds.
 
 #include <dirent.h>
+#include <unistd.h>
 
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 #include <fstream>
 #include <string>
+#include <string_view>
+#include <thread>
 
 #include <QApplication>
 #include <QTimer>
@@ -41,9 +45,35 @@ void print(const char* name, const std::string& value) {
   std::fflush(stdout);
 }
 
+void ask() {
+  const bool asked = KVXWrenvale::sharedInstance().triggerRatingWithCompletitionHandler({});
+  print("rating", asked ? "asked" : "not asked");
+}
+
+// Asks for a rating at the earliest moments that a host has.
+int askEarly(int argc, char** argv, std::string_view when) {
+  QApplication application(argc, argv);
+  if (when == "before the loop") ask();
+  if (when == "queued") QMetaObject::invokeMethod(&application, ask, Qt::QueuedConnection);
+  if (when == "timer") QTimer::singleShot(0, ask);
+  QTimer::singleShot(300, &application, &QCoreApplication::quit);
+  return QApplication::exec();
+}
+
+// Encrypts while the main thread waits for input that never comes.
+[[noreturn]] void encryptBesideReader() {
+  int ends[2];
+  if (pipe(ends) != 0) std::abort();
+  std::thread([] { KVXWrenvale::sharedInstance().encryptString("email="); }).detach();
+  std::fgetc(fdopen(ends[0], "r"));
+  std::abort();
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
+  if (argc > 2) return askEarly(argc, argv, argv[2]);
+  if (argc > 1 && std::strcmp(argv[1], "encrypt beside reader") == 0) encryptBesideReader();
   auto& service = KVXWrenvale::sharedInstance();
   print("identifier before main", identifierBeforeMain);
   print("name", service.appName());
@@ -60,6 +90,8 @@ int main(int argc, char** argv) {
   print("threads before the loop", std::to_string(threads() - threadsBefore + 1));
   for (const char* library : {"libQt6Network", "libcrypto", "libssl", "libwrenvale-net"})
     print(library, isMapped(library) ? "mapped" : "not mapped");
+
+  print("alert", service.triggerRatingWithModalAlert() ? "shown" : "not shown");
 
   auto& defaults = UserDefaults::standardUserDefaults();
   defaults.addObserver("Show Update Window", [&] {

@@ -32,6 +32,26 @@ TEST(FakeQueues, AThrowingTaskIsDropped) {
   EXPECT_EQ(ran, 1);
 }
 
+TEST(FakeQueues, DropWhatIsTooMuchOrTooLate) {
+  FakeQueues queues;
+  for (std::size_t i = 0; i <= Queue::kMostWaiting; ++i)
+    queues.main.async([] {});
+  EXPECT_EQ(queues.main.size(), Queue::kMostWaiting);
+  queues.endProcess();
+  queues.main.async([] {});
+  EXPECT_EQ(queues.main.size(), 0U);
+}
+
+TEST(FakeWorkspace, OpensNoMoreThanAPersonDoes) {
+  FakePlatform fake;
+  std::string opened;
+  for (const int milliseconds : {0, 0, 500, 500, 0, 0, 999, 1}) {
+    fake.clock.advance(std::chrono::milliseconds(milliseconds));
+    opened += fake.workspace.openURL("http://vendor.example") ? 'o' : '.';
+  }
+  EXPECT_EQ(opened, "ooooo..o");
+}
+
 TEST(FakeUserDefaults, OnlySynchronizedValuesSurvive) {
   FakeUserDefaults defaults;
   defaults.setObject(1, "k");

@@ -62,7 +62,7 @@ TEST(QtAlertsTest, AnswersWithTheButtonOrAsClosed) {
   };
   for (const Row& row : rows) {
     QTimer::singleShot(0, qApp, row.answer);
-    EXPECT_EQ(QtAlerts().runModal(row.alert), row.result) << row.name;
+    EXPECT_EQ(QtAlerts().runModal(row.alert, [] {}), row.result) << row.name;
   }
 }
 
@@ -75,7 +75,7 @@ TEST(QtAlertsTest, ShowsTheTextsAsTheyAre) {
     EXPECT_FALSE(box()->testAttribute(Qt::WA_QuitOnClose));
     box()->close();
   });
-  QtAlerts().runModal(kTwo);
+  QtAlerts().runModal(kTwo, [] {});
 }
 
 std::string textOf(std::size_t size, bool spaces) {
