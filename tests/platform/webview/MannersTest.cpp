@@ -84,6 +84,19 @@ TEST_F(MannersTest, RequestsAreRefused) {
   }
 }
 
+// Without a click. The engine drops keys in a page's first half second.
+TEST_F(MannersTest, AShownPageHasTheKeyboard) {
+  show("<input id=field><script>field.focus();"
+       "var focused = () => Recommender.log(document.hasFocus());"
+       "var typed = () => Recommender.log(field.value)</script>");
+  window_->makeKeyAndOrderFront();
+  ASSERT_TRUE(becomes("focused", "true"));
+  EXPECT_TRUE(waitUntil([&] {
+    QTest::keyClick(QApplication::focusWidget(), 'x');
+    return ask("typed").starts_with('x');
+  }));
+}
+
 TEST_F(MannersTest, OnlyWhatIsTypedCanBeSelected) {
   show("Text to select<br><input id=field value='a field' "
        "style='font:inherit'>"
