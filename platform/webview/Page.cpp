@@ -135,6 +135,8 @@ void Page::refuseRequests() {
 void Page::insertScripts() {
   scripts().insert(
       script("script object", scriptObject_.source(), QWebEngineScript::MainWorld, false));
+  scripts().insert(script("detached links", NavigationRemarks::pagesSource(),
+                          QWebEngineScript::MainWorld, true));
   scripts().insert(script("manners", remarks_.source(), QWebEngineScript::ApplicationWorld, true));
 }
 

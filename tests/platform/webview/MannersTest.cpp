@@ -99,7 +99,7 @@ TEST_F(MannersTest, AShownPageHasTheKeyboard) {
 
 TEST_F(MannersTest, OnlyWhatIsTypedCanBeSelected) {
   show("Text to select<br><input id=field value='a field' "
-       "style='font:inherit'>"
+       "style='font:inherit'><div id=rich contenteditable>rich text</div>"
        "<script>var text = () => Recommender.log('' + getSelection());"
        "const field = document.getElementById('field'); var typed = () => "
        "Recommender.log(field.value.slice(field.selectionStart, field.selectionEnd))</script>");
@@ -111,6 +111,8 @@ TEST_F(MannersTest, OnlyWhatIsTypedCanBeSelected) {
   QTest::keyClick(&view(), 'x');
   QTest::keyClick(&view(), Qt::Key_A, Qt::ControlModifier);
   EXPECT_TRUE(becomes("typed", "x"));
+  drag({1, 130}, {450, 130});
+  EXPECT_TRUE(becomes("text", "rich text"));
 }
 
 TEST_F(MannersTest, NothingIsDraggedAndThereIsNoMenu) {
