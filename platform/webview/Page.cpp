@@ -192,13 +192,10 @@ bool Page::greet(const QUrl& origin, QString& result) {
 bool Page::perform(const QString& message, QString& result) {
   if (!scriptObject_.isCall(message)) return false;
   const auto call = scriptObject_.call(message);
-  if (!call) {
-    result.clear();
-    return scriptObject_.isUnfinished();
-  }
-  const auto answer = delegate_->invokeScriptMethod(call->name, call->arguments);
-  if (answer) result = ScriptObject::encoded(*answer);
-  return answer.has_value();
+  const auto answer =
+      call ? delegate_->invokeScriptMethod(call->name, call->arguments) : std::nullopt;
+  result = answer ? ScriptObject::encoded(*answer) : QString();
+  return true;
 }
 
 // What pages say on the console is of no interest to the host.
