@@ -202,10 +202,10 @@ TEST_F(RecommenderWindowTest, AsksInSheets) {
   press("Cancel");
   window_->beginSheet(alert, answered);
   sheet()->reject();
-  window_->beginErrorSheet({.description = "No page.", .url = "http://x"},
+  window_->beginErrorSheet({.description = "No page.", .advice = "Try again.", .url = "http://x"},
                            [&] { answers.push_back(7); });
   ASSERT_TRUE(sheet());
-  EXPECT_EQ(sheet()->text(), "No page.");
+  EXPECT_EQ(sheet()->text() + "/" + sheet()->informativeText(), "No page./Try again.");
   press("Ok");
   window_->beginSheet(alert, answered);
   delete sheet();

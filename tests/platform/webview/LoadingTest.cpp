@@ -71,6 +71,7 @@ TEST_F(LoadingTest, AddressesThatLeadNowhereFail) {
     window_->loadRequest(url, std::chrono::seconds(20));
     EXPECT_TRUE(waitFor("fail")) << url;
     EXPECT_EQ(failures(), 1) << url;
+    EXPECT_THAT(delegate_.advice, testing::StartsWith("Check the connection")) << url;
     EXPECT_FALSE(window_->hasScriptObject()) << url;
   }
 }
@@ -149,6 +150,7 @@ TEST_F(LoadingTest, APageWhoseProcessEndsHasFailed) {
     kill(process, SIGKILL);
   EXPECT_TRUE(waitFor("fail"));
   EXPECT_EQ(failures(), 1);
+  EXPECT_EQ(delegate_.advice, "") << "for the connection is not to blame";
   EXPECT_FALSE(window_->hasScriptObject());
 }
 
