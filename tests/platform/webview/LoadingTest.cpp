@@ -154,6 +154,20 @@ TEST_F(LoadingTest, APageWhoseProcessEndsHasFailed) {
   EXPECT_FALSE(window_->hasScriptObject());
 }
 
+// That is how a page tells the newsletter window, which is there before it, from the welcome
+// window.
+TEST_F(LoadingTest, APageKnowsWhetherItsWindowCanBeSeen) {
+  if (QGuiApplication::platformName() == "offscreen") GTEST_SKIP() << "no window has a size there";
+  site_.page("/", "<script>Recommender.log(outerWidth > 0); Recommender.done()</script>");
+  for (const char* isShown : {"false", "true"}) {
+    load("/");
+    window_->setWebViewHidden(true);
+    if (isShown == std::string("true")) window_->showWindow();
+    ASSERT_TRUE(waitFor("done"));
+    EXPECT_THAT(told(), testing::ElementsAre(isShown));
+  }
+}
+
 TEST_F(LoadingTest, IsNobodyElsesAndLeavesNothing) {
   site_.answer("/", scriptPage("200 OK", "Set-Cookie: a=b\r\nCache-Control: max-age=99999\r\n"));
   for (int i = 0; i < 2; ++i) {
