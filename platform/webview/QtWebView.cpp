@@ -24,6 +24,7 @@ QQuickItem* itemWithoutItsFocus(QQuickItem* item) {
 // asked for shared contexts. The new scene does not know which item has its focus, and the page
 // would have neither a caret nor a focus ring.
 void restoreFocus(QQuickWidget& drawing) {
+  if (!drawing.hasFocus()) return;
   if (auto* item = itemWithoutItsFocus(drawing.quickWindow()->contentItem())) {
     item->setFocus(false);
     item->forceActiveFocus();

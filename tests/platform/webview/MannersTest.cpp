@@ -90,6 +90,13 @@ TEST_F(MannersTest, AShownPageHasTheKeyboard) {
        "var focused = () => Recommender.log(document.hasFocus());"
        "var typed = () => Recommender.log(field.value)</script>");
   window_->makeKeyAndOrderFront();
+  EXPECT_TRUE(becomes("focused", "true"));
+  window_->beginSheet({.messageText = "Thank you", .informativeText = {}, .defaultButton = "Ok"},
+                      [](int) {});
+  EXPECT_TRUE(becomes("focused", "false"));
+  ASSERT_TRUE(QApplication::activeModalWidget());
+  QApplication::activeModalWidget()->close();
+  widget()->activateWindow(); // as a window manager does
   ASSERT_TRUE(becomes("focused", "true"));
   EXPECT_TRUE(waitUntil([&] {
     QTest::keyClick(QApplication::focusWidget(), 'x');
