@@ -36,6 +36,7 @@ enum class PolicyDecision { kUse, kIgnore, kNone };
 
 struct LoadError {
   std::string description; ///< for the user, in the user's language where the system has it
+  std::string advice{};    ///< what the user can do about it; empty when that is nothing
   std::string url;
 };
 

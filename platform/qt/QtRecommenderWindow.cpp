@@ -268,7 +268,7 @@ void QtRecommenderWindow::beginSheet(const Alert& alert, std::function<void(int)
 void QtRecommenderWindow::beginErrorSheet(const LoadError& error, std::function<void()> handler) {
   session_->beginSheet(
       {.messageText = error.description,
-       .informativeText = {},
+       .informativeText = error.advice,
        .defaultButton = translated(QT_TRANSLATE_NOOP("Wrenvale", "Ok")).toStdString()},
       [handler = std::move(handler)](int) { handler(); });
 }

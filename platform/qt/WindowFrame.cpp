@@ -15,22 +15,26 @@ double bounded(double value, double least, double most) {
 }
 
 struct Stretch {
-  int begin, length;
+  double begin, length;
 };
 
 Stretch fitted(double begin, double length, int smallest, int screenBegin, int screenLength) {
   const double centre = begin + length / 2;
   const double fits = bounded(length, smallest, screenLength);
-  const double place = bounded(centre - fits / 2, screenBegin, screenBegin + screenLength - fits);
-  return {.begin = qRound(place), .length = qRound(fits)};
+  return {.begin = bounded(centre - fits / 2, screenBegin, screenBegin + screenLength - fits),
+          .length = fits};
+}
+
+QRect rounded(const Frame& frame) {
+  return {qRound(frame.x), qRound(frame.y), qRound(frame.width), qRound(frame.height)};
 }
 
 } // namespace
 
-QRect frameOnScreen(const Frame& wanted, QSize smallest, const QRect& screen) {
+Frame frameOnScreen(const Frame& wanted, QSize smallest, const QRect& screen) {
   const auto across = fitted(wanted.x, wanted.width, smallest.width(), screen.x(), screen.width());
   const auto down = fitted(wanted.y, wanted.height, smallest.height(), screen.y(), screen.height());
-  return {across.begin, down.begin, across.length, down.length};
+  return {.x = across.begin, .y = down.begin, .width = across.length, .height = down.length};
 }
 
 WindowFrame::WindowFrame(QWidget& window)
@@ -54,8 +58,11 @@ QRect WindowFrame::target() const {
   return isMoving() ? animation_.endValue().toRect() : window_.frameGeometry();
 }
 
+// Windows are in whole places. One that is where it was put tells where that was exactly: resized
+// around its centre again and again, it would wander by what is rounded off.
 Frame WindowFrame::frame() const {
   const QRect frame = target();
+  if (frame == rounded(set_)) return set_;
   return {.x = double(frame.x()),
           .y = double(frame.y()),
           .width = double(frame.width()),
@@ -69,8 +76,9 @@ Frame WindowFrame::frameForContentSize(double width, double height) const {
 
 void WindowFrame::setFrame(const Frame& frame, bool animate) {
   decoration_ = decoration();
-  const QRect end = frameOnScreen(frame, window_.minimumSize() + decoration_,
-                                  window_.screen()->availableGeometry());
+  set_ = frameOnScreen(frame, window_.minimumSize() + decoration_,
+                       window_.screen()->availableGeometry());
+  const QRect end = rounded(set_);
   animation_.stop();
   if (!animate || animationDuration() == 0) return apply(end);
   animation_.setDuration(animationDuration());

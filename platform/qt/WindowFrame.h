@@ -12,7 +12,7 @@ namespace wrenvale::platform {
 
 /// The rectangle that comes closest to `wanted`, which may be negative, empty, immense or no
 /// numbers at all: with the same centre, not smaller than `smallest`, and within `screen`.
-QRect frameOnScreen(const Frame& wanted, QSize smallest, const QRect& screen);
+Frame frameOnScreen(const Frame& wanted, QSize smallest, const QRect& screen);
 
 /// The frame of a top-level widget, which outlives this. Main thread only.
 class WindowFrame {
@@ -35,6 +35,7 @@ private:
 
   QWidget& window_;
   QVariantAnimation animation_;
+  Frame set_;        // by setFrame(), as far as it could be
   QSize decoration_; // as it was when the window last began to move
 };
 

@@ -33,6 +33,9 @@
   };
   window.addEventListener("click", onClick, true);
   window.addEventListener("auxclick", onClick, true);
+  window.addEventListener("wrenvale-detached-click", ({ relatedTarget: node }) => { // DetachedLinks.js
+    if (node) node.getRootNode({ composed: true }).addEventListener("click", onClick, { capture: true, once: true });
+  }, true);
 
   // A form's data is put together just before it is sent, by a person or by submit(). One that opens
   // a window looks like a link otherwise.
@@ -89,7 +92,8 @@
 
   // What is typed may be selected, nothing else.
   const isTyped = (node) =>
-    node.localName === "input" || node.localName === "textarea" || node.isContentEditable;
+    node.localName === "input" || node.localName === "textarea" || node.isContentEditable ||
+    (node.nodeType === Node.TEXT_NODE && node.parentElement !== null && node.parentElement.isContentEditable);
   const refuse = (event) => { event.preventDefault(); event.stopImmediatePropagation(); };
   window.addEventListener("selectstart", (event) => {
     if (!isTyped(event.composedPath()[0])) refuse(event);

@@ -3,6 +3,8 @@
 extern "C" {
 extern const unsigned char wrenvale_manners[];
 extern const unsigned long wrenvale_manners_size;
+extern const unsigned char wrenvale_detached_links[];
+extern const unsigned long wrenvale_detached_links_size;
 }
 
 namespace wrenvale::platform {
@@ -12,6 +14,10 @@ namespace {
 // A remark that no navigation followed, such as of a link whose click the page handled itself, is
 // not about one that comes later.
 constexpr qint64 kLifetime = 1000; // milliseconds
+
+QString fromUTF8(const unsigned char* bytes, unsigned long size) {
+  return QString::fromUtf8(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(size));
+}
 
 NavigationType typeNamed(QStringView word) {
   if (word == QLatin1String("reload")) return NavigationType::kReload;
@@ -28,10 +34,11 @@ QUrl withoutData(const QUrl& url) {
 } // namespace
 
 QString NavigationRemarks::source() const {
-  return QString::fromUtf8(reinterpret_cast<const char*>(wrenvale_manners),
-                           static_cast<qsizetype>(wrenvale_manners_size))
-             .trimmed() +
-         "(\"" + secret_ + "\");";
+  return fromUTF8(wrenvale_manners, wrenvale_manners_size).trimmed() + "(\"" + secret_ + "\");";
+}
+
+QString NavigationRemarks::pagesSource() {
+  return fromUTF8(wrenvale_detached_links, wrenvale_detached_links_size);
 }
 
 std::optional<QUrl> NavigationRemarks::note(const QString& consoleMessage) {

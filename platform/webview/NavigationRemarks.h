@@ -21,6 +21,8 @@ class NavigationRemarks {
 public:
   /// What makes the remarks, to be run beside each document.
   QString source() const;
+  /// What tells it of some clicks, to be run in each document, before the page's scripts.
+  static QString pagesSource();
 
   /// Takes note when the message is a remark. Answers the address of a clicked link about which the
   /// engine asks nobody: one to another place in its page, or one to save.

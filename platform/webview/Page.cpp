@@ -19,6 +19,8 @@ namespace {
 
 constexpr const char* kUnreachable = QT_TRANSLATE_NOOP("Wrenvale", "The server cannot be reached.");
 constexpr const char* kSilent = QT_TRANSLATE_NOOP("Wrenvale", "The server does not answer.");
+constexpr const char* kCheck =
+    QT_TRANSLATE_NOOP("Wrenvale", "Check the connection to the Internet, and try again later.");
 constexpr const char* kEnded = QT_TRANSLATE_NOOP("Wrenvale", "The page has ended unexpectedly.");
 
 std::string text(const QUrl& url) {
@@ -69,14 +71,14 @@ Page::Page(QWebEngineProfile& profile, WebViewDelegate& delegate)
   insertScripts();
   timeout_.setSingleShot(true);
   connect(&timeout_, &QTimer::timeout, this, [this] {
-    fail(requestedUrl(), kSilent);
+    fail(requestedUrl(), kSilent, kCheck);
     triggerAction(Stop);
   });
   connect(this, &QWebEnginePage::loadingChanged, this, &Page::onLoading);
   connect(this, &QWebEnginePage::newWindowRequested, this, &Page::onNewWindow);
   connect(this, &QWebEnginePage::renderProcessTerminated, this, [this] {
     scriptObject_.clear();
-    fail(url(), kEnded);
+    fail(url(), kEnded, "");
   });
 }
 
@@ -135,12 +137,14 @@ void Page::refuseRequests() {
 void Page::insertScripts() {
   scripts().insert(
       script("script object", scriptObject_.source(), QWebEngineScript::MainWorld, false));
+  scripts().insert(script("detached links", NavigationRemarks::pagesSource(),
+                          QWebEngineScript::MainWorld, true));
   scripts().insert(script("manners", remarks_.source(), QWebEngineScript::ApplicationWorld, true));
 }
 
 void Page::start(const QUrl& url, std::chrono::milliseconds timeout) {
   if (url.scheme() != "http" && url.scheme() != "https") {
-    QTimer::singleShot(0, this, [this, url] { fail(url, kUnreachable); });
+    QTimer::singleShot(0, this, [this, url] { fail(url, kUnreachable, kCheck); });
     return;
   }
   timeout_.setInterval(timeout);
@@ -190,13 +194,10 @@ bool Page::greet(const QUrl& origin, QString& result) {
 bool Page::perform(const QString& message, QString& result) {
   if (!scriptObject_.isCall(message)) return false;
   const auto call = scriptObject_.call(message);
-  if (!call) {
-    result.clear();
-    return scriptObject_.isUnfinished();
-  }
-  const auto answer = delegate_->invokeScriptMethod(call->name, call->arguments);
-  if (answer) result = ScriptObject::encoded(*answer);
-  return answer.has_value();
+  const auto answer =
+      call ? delegate_->invokeScriptMethod(call->name, call->arguments) : std::nullopt;
+  result = answer ? ScriptObject::encoded(*answer) : QString();
+  return true;
 }
 
 // What pages say on the console is of no interest to the host.
@@ -225,7 +226,7 @@ void Page::onEnd(const QWebEngineLoadingInfo& info) {
   if (arrived) {
     hadDocument_ = true;
   } else if (info.status() == Info::LoadFailedStatus || !hadDocument_) {
-    fail(info.url(), kUnreachable);
+    fail(info.url(), kUnreachable, kCheck);
   }
 }
 
@@ -246,14 +247,15 @@ void Page::onNewWindow(const QWebEngineNewWindowRequest& request) {
        .type = remarks_.typeOfNewWindow(url, request.isUserInitiated())});
 }
 
-void Page::fail(const QUrl& url, const char* reason) {
+void Page::fail(const QUrl& url, const char* reason, const char* advice) {
+  const auto translated = [](const char* text) {
+    return QCoreApplication::translate("Wrenvale", text).toStdString();
+  };
   if (!delegate_ || std::exchange(hasFailed_, true)) return;
   const Call call(*this);
   timeout_.stop();
   delegate_->didFailProvisionalLoad(
-      {.description = QCoreApplication::translate("Wrenvale", reason).toStdString(),
-       .url = text(url)},
-      true);
+      {.description = translated(reason), .advice = translated(advice), .url = text(url)}, true);
 }
 
 } // namespace wrenvale::platform

@@ -54,7 +54,7 @@ private:
   void onNewWindow(const QWebEngineNewWindowRequest& request);
   void onLeaving(const QUrl& url);
   PolicyDecision decide(const QUrl& url, platform::NavigationType type, bool isMainFrame);
-  void fail(const QUrl& url, const char* text);
+  void fail(const QUrl& url, const char* reason, const char* advice);
 
   WebViewDelegate* delegate_; // null once retired
   ScriptObject scriptObject_;

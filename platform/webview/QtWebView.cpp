@@ -1,5 +1,8 @@
 #include "platform/webview/QtWebView.h"
 
+#include <QQuickItem>
+#include <QQuickWidget>
+#include <QQuickWindow>
 #include <QWebEngineUrlRequestInfo>
 #include <QWebEngineUrlRequestInterceptor>
 
@@ -8,6 +11,25 @@
 namespace wrenvale::platform {
 
 namespace {
+
+// The item in this tree that is to have the keyboard's focus and has not got it.
+QQuickItem* itemWithoutItsFocus(QQuickItem* item) {
+  if (item->hasFocus() && !item->hasActiveFocus() && !item->isFocusScope()) return item;
+  for (auto* child : item->childItems())
+    if (auto* found = itemWithoutItsFocus(child)) return found;
+  return nullptr;
+}
+
+// With OpenGL, a page's widget gets a new scene for its item as it is shown, unless the host has
+// asked for shared contexts. The new scene does not know which item has its focus, and the page
+// would have neither a caret nor a focus ring.
+void restoreFocus(QQuickWidget& drawing) {
+  if (!drawing.hasFocus()) return;
+  if (auto* item = itemWithoutItsFocus(drawing.quickWindow()->contentItem())) {
+    item->setFocus(false);
+    item->forceActiveFocus();
+  }
+}
 
 class View final : public QWebEngineView {
 public:
@@ -18,6 +40,15 @@ protected:
   void childEvent(QChildEvent* event) override {
     QWebEngineView::childEvent(event);
     endBeforeEngine();
+    if (event->added()) event->child()->installEventFilter(this);
+  }
+  // Once the widget has seen to its own focus.
+  bool eventFilter(QObject* child, QEvent* event) override {
+    auto* drawing = qobject_cast<QQuickWidget*>(child);
+    if (drawing && event->type() == QEvent::FocusIn)
+      QMetaObject::invokeMethod(
+          drawing, [drawing] { restoreFocus(*drawing); }, Qt::QueuedConnection);
+    return QWebEngineView::eventFilter(child, event);
   }
 };
 

@@ -41,10 +41,7 @@ public:
   /// The call that this message completes. Nothing while it is not complete, and for a text that is
   /// too long or calls no published method.
   std::optional<Call> call(const QString& message);
-  /// Whether the last message was a part that more follows.
-  bool isUnfinished() const { return !pieces_.isEmpty(); }
-
-  /// What the page's half makes a call's result of.
+  /// What the page's half makes a call's result of; it takes an empty text for a call that failed.
   static QString encoded(const Value& result);
 
 private:

@@ -4,7 +4,8 @@
 // The host knows its own prompts by secrets that no script of the page's, or of a frame in it, can
 // get at: they are held by this closure alone, and nothing here uses what a page can replace after
 // this has run. A document that is opened anew in the same window brings this here again; then it
-// finds the prompt that it left behind itself, which answers nothing and tells nobody.
+// finds the prompt that it left behind itself, which answers nothing and tells nobody. The engine
+// lets no prompt through while a page is being left: such a call does nothing and answers null.
 (function (secret) {
   "use strict";
   const ask = window.prompt;
@@ -52,8 +53,8 @@
       for (let k = 0; k < count; ++k)
         text += "," + (k < given.length ? encoded(given[k]) : "null");
       const result = send(text + "]");
-      if (result === null) throw new Failure(name + "." + method + " failed");
-      return parse(result)[0];
+      if (result === "") throw new Failure(name + "." + method + " failed");
+      return result === null ? null : parse(result)[0];
     };
     define(call, "name", { value: method });
     define(object, method, { value: freeze(call), enumerable: true });

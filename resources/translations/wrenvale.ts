@@ -175,6 +175,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Check the connection to the Internet, and try again later.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Ok</source>
         <translation type="unfinished"></translation>
     </message>

@@ -175,6 +175,10 @@
         <translation>تعذّر الوصول إلى الخادم.</translation>
     </message>
     <message>
+        <source>Check the connection to the Internet, and try again later.</source>
+        <translation>تحقّق من الاتصال بالإنترنت، ثم حاول مرة أخرى لاحقًا.</translation>
+    </message>
+    <message>
         <source>Ok</source>
         <translation>حسنًا</translation>
     </message>

@@ -175,6 +175,10 @@
         <translation>Der Server ist nicht erreichbar.</translation>
     </message>
     <message>
+        <source>Check the connection to the Internet, and try again later.</source>
+        <translation>Prüfen Sie die Internetverbindung und versuchen Sie es später noch einmal.</translation>
+    </message>
+    <message>
         <source>Ok</source>
         <translation>OK</translation>
     </message>

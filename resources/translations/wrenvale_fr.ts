@@ -175,6 +175,10 @@
         <translation>Impossible de joindre le serveur.</translation>
     </message>
     <message>
+        <source>Check the connection to the Internet, and try again later.</source>
+        <translation>Vérifiez la connexion à Internet, puis réessayez plus tard.</translation>
+    </message>
+    <message>
         <source>Ok</source>
         <translation>OK</translation>
     </message>

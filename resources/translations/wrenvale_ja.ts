@@ -175,6 +175,10 @@
         <translation>サーバに接続できません。</translation>
     </message>
     <message>
+        <source>Check the connection to the Internet, and try again later.</source>
+        <translation>インターネット接続を確認し、後でもう一度お試しください。</translation>
+    </message>
+    <message>
         <source>Ok</source>
         <translation>OK</translation>
     </message>

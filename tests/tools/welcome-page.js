@@ -16,6 +16,9 @@
   const order = calls.filter((name) => ["ready", "setWidth:height", "showWindow"].includes(name));
   if (order.join() !== "ready,setWidth:height,showWindow") return `wrong order: ${order}`;
   if (text("h1 span") !== "Photo Tool" || text("[data-host=build]") !== "1204") return "no name or build";
+  const field = document.querySelector("#email");
+  if (calls.at(-1) === "showWindow" && (document.activeElement === field) !== (window.outerWidth > 0))
+    return "the field has the focus where it should not, or has not";
   if (!shown(".over.when-updated") || shown(".over.when-new")) return "no word of the update";
   if (!shown("#news") || !shown("#newsletter") || !shown("#store") || shown("#nothing"))
     return "a section is missing, or too much";

@@ -1,5 +1,6 @@
 // The recommender window itself, without a web view in it.
 
+#include <cmath>
 #include <fstream>
 #include <limits>
 
@@ -21,8 +22,12 @@ namespace {
 constexpr double kHuge = 9.3e18;
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
+QRectF exact(const Frame& frame) {
+  return {frame.x, frame.y, frame.width, frame.height};
+}
+
 QRect rect(const Frame& frame) {
-  return QRectF(frame.x, frame.y, frame.width, frame.height).toRect();
+  return exact(frame).toRect();
 }
 
 struct Delegate : RecommenderWindowDelegate {
@@ -96,7 +101,7 @@ TEST(WindowFrame, StaysOnTheScreen) {
   const QSize smallest(100, 80);
   const struct {
     Frame wanted;
-    QRect frame;
+    QRectF frame;
   } rows[] = {
       {{100, 200, 640, 480}, {100, 200, 640, 480}},
       {{-500, 100, 640, 480}, {0, 100, 640, 480}},
@@ -108,11 +113,11 @@ TEST(WindowFrame, StaysOnTheScreen) {
       {{-kHuge / 2, -kHuge / 2, kHuge, kHuge}, {0, 30, 1000, 700}},
       {{kHuge, -kHuge, -kHuge, kHuge}, {900, 30, 100, 700}},
       {{kNaN, kNaN, kNaN, kNaN}, {0, 30, 100, 80}},
-      {{99.6, 199.5, 640.4, 480.5}, {100, 200, 640, 481}},
+      {{99.6, 199.5, 640.4, 480.5}, {99.6, 199.5, 640.4, 480.5}},
   };
   for (const auto& row : rows)
-    EXPECT_EQ(frameOnScreen(row.wanted, smallest, screen), row.frame) << "row " << &row - rows;
-  EXPECT_EQ(frameOnScreen({0, 0, 50, 50}, {2000, 900}, screen), QRect(0, 30, 2000, 900));
+    EXPECT_EQ(exact(frameOnScreen(row.wanted, smallest, screen)), row.frame) << &row - rows;
+  EXPECT_EQ(exact(frameOnScreen({0, 0, 50, 50}, {2000, 900}, screen)), QRectF(0, 30, 2000, 900));
 }
 
 TEST_F(RecommenderWindowTest, MovesWhereItIsTold) {
@@ -134,6 +139,38 @@ TEST_F(RecommenderWindowTest, MovesWhereItIsTold) {
     window_->setFrame({.x = 0, .y = 0, .width = kHuge, .height = -kHuge}, shown);
     EXPECT_TRUE(
         QTest::qWaitFor([&] { return widget().frameGeometry().width() == screen.width(); }));
+  }
+}
+
+// As a page resizes it, around its centre: once a size is reached, or before that.
+TEST_F(RecommenderWindowTest, StaysInItsPlaceHoweverOftenItIsResized) {
+  const auto resize = [this](int height) {
+    const Frame now = window_->frame();
+    Frame next = window_->frameForContentSize(400, height);
+    next.x = std::round(now.x + (now.width - next.width) / 2);
+    next.y = now.y + (now.height - next.height) / 2;
+    window_->setFrame(next, window_->isVisible());
+  };
+  const auto arrives = [](int height) {
+    const bool arrived =
+        QTest::qWaitFor([&] { return widget().size() == QSize(400, height); }, 2000);
+    QTest::qWait(widget().isVisible() ? 100 : 0); // for what the server has to say to it
+    return arrived;
+  };
+  for (const bool shown : {false, true}) {
+    if (shown) show();
+    resize(300);
+    EXPECT_TRUE(arrives(300));
+    const int top = widget().y();
+    for (int i = 0; i < 50; ++i)
+      for (const int height : {421, 300}) {
+        resize(height);
+        if (i % 10 == 0) {
+          EXPECT_TRUE(arrives(height)) << shown;
+        }
+      }
+    EXPECT_TRUE(arrives(300)) << shown;
+    EXPECT_EQ(widget().y(), top) << shown;
   }
 }
 
@@ -165,10 +202,10 @@ TEST_F(RecommenderWindowTest, AsksInSheets) {
   press("Cancel");
   window_->beginSheet(alert, answered);
   sheet()->reject();
-  window_->beginErrorSheet({.description = "No page.", .url = "http://x"},
+  window_->beginErrorSheet({.description = "No page.", .advice = "Try again.", .url = "http://x"},
                            [&] { answers.push_back(7); });
   ASSERT_TRUE(sheet());
-  EXPECT_EQ(sheet()->text(), "No page.");
+  EXPECT_EQ(sheet()->text() + "/" + sheet()->informativeText(), "No page./Try again.");
   press("Ok");
   window_->beginSheet(alert, answered);
   delete sheet();

@@ -71,6 +71,7 @@ TEST_F(LoadingTest, AddressesThatLeadNowhereFail) {
     window_->loadRequest(url, std::chrono::seconds(20));
     EXPECT_TRUE(waitFor("fail")) << url;
     EXPECT_EQ(failures(), 1) << url;
+    EXPECT_THAT(delegate_.advice, testing::StartsWith("Check the connection")) << url;
     EXPECT_FALSE(window_->hasScriptObject()) << url;
   }
 }
@@ -149,7 +150,22 @@ TEST_F(LoadingTest, APageWhoseProcessEndsHasFailed) {
     kill(process, SIGKILL);
   EXPECT_TRUE(waitFor("fail"));
   EXPECT_EQ(failures(), 1);
+  EXPECT_EQ(delegate_.advice, "") << "for the connection is not to blame";
   EXPECT_FALSE(window_->hasScriptObject());
+}
+
+// That is how a page tells the newsletter window, which is there before it, from the welcome
+// window.
+TEST_F(LoadingTest, APageKnowsWhetherItsWindowCanBeSeen) {
+  if (QGuiApplication::platformName() == "offscreen") GTEST_SKIP() << "no window has a size there";
+  site_.page("/", "<script>Recommender.log(outerWidth > 0); Recommender.done()</script>");
+  for (const char* isShown : {"false", "true"}) {
+    load("/");
+    window_->setWebViewHidden(true);
+    if (isShown == std::string("true")) window_->showWindow();
+    ASSERT_TRUE(waitFor("done"));
+    EXPECT_THAT(told(), testing::ElementsAre(isShown));
+  }
 }
 
 TEST_F(LoadingTest, IsNobodyElsesAndLeavesNothing) {

@@ -84,9 +84,29 @@ TEST_F(MannersTest, RequestsAreRefused) {
   }
 }
 
+// Without a click. The engine drops keys in a page's first half second.
+TEST_F(MannersTest, AShownPageHasTheKeyboard) {
+  show("<input id=field><script>field.focus();"
+       "var focused = () => Recommender.log(document.hasFocus());"
+       "var typed = () => Recommender.log(field.value)</script>");
+  window_->makeKeyAndOrderFront();
+  EXPECT_TRUE(becomes("focused", "true"));
+  window_->beginSheet({.messageText = "Thank you", .informativeText = {}, .defaultButton = "Ok"},
+                      [](int) {});
+  EXPECT_TRUE(becomes("focused", "false"));
+  ASSERT_TRUE(QApplication::activeModalWidget());
+  QApplication::activeModalWidget()->close();
+  widget()->activateWindow(); // as a window manager does
+  ASSERT_TRUE(becomes("focused", "true"));
+  EXPECT_TRUE(waitUntil([&] {
+    QTest::keyClick(QApplication::focusWidget(), 'x');
+    return ask("typed").starts_with('x');
+  }));
+}
+
 TEST_F(MannersTest, OnlyWhatIsTypedCanBeSelected) {
   show("Text to select<br><input id=field value='a field' "
-       "style='font:inherit'>"
+       "style='font:inherit'><div id=rich contenteditable>rich text</div>"
        "<script>var text = () => Recommender.log('' + getSelection());"
        "const field = document.getElementById('field'); var typed = () => "
        "Recommender.log(field.value.slice(field.selectionStart, field.selectionEnd))</script>");
@@ -98,6 +118,8 @@ TEST_F(MannersTest, OnlyWhatIsTypedCanBeSelected) {
   QTest::keyClick(&view(), 'x');
   QTest::keyClick(&view(), Qt::Key_A, Qt::ControlModifier);
   EXPECT_TRUE(becomes("typed", "x"));
+  drag({1, 130}, {450, 130});
+  EXPECT_TRUE(becomes("text", "rich text"));
 }
 
 TEST_F(MannersTest, NothingIsDraggedAndThereIsNoMenu) {

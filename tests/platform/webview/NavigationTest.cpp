@@ -29,6 +29,8 @@ constexpr const char* kPage = R"(<!DOCTYPE html><title>Test</title>
 <form id=form action="/sent"></form><form id=post method=post action="/sent"></form>
 <iframe id=frame name=frame src="/framed"></iframe><iframe id=foreign></iframe>
 <script>const $ = id => document.getElementById(id); const framed = id => $('frame').contentDocument.getElementById(id);
+function link(href, more) { const a = (this || window).document.createElement('a');
+  a.append((this || window).document.createElement('b')); return Object.assign(a, {href}, more) }
 $('foreign').src = location.origin.replace('127.0.0.1', 'localhost') + '/foreign';
 onload = () => setTimeout(() => { Recommender.act(); run(); setTimeout(() => Recommender.done(), 150); });
 </script>)";
@@ -44,6 +46,19 @@ TEST_F(NavigationTest, IsAskedAboutWithItsReason) {
       {"location.reload()", {"go 3 /"}},
       {"$('link').click()", {"go 0 /linked"}},
       {"$('inside').click()", {"go 0 /#inside"}},
+      {"link('/linked').click()", {"go 0 /linked"}},
+      {"link('/linked').dispatchEvent(new MouseEvent('click'))", {"go 0 /linked"}},
+      {"link('/linked').firstChild.click()", {"go 0 /linked"}},
+      {"link('#inside').click()", {"go 0 /#inside"}},
+      {"link('mailto:a@b.example').click()", {"go 0 mailto:a@b.example"}},
+      {"link('/linked', {target: '_blank'}).click()", {"open 0 /linked"}},
+      {"link('/linked', {target: '_top'}).click()", {"go 0 /linked"}},
+      {"link('/linked', {target: 'frame'}).click()", {"go 0 /linked in /"}},
+      {"link('/linked', {onclick: () => false}).click()", {}},
+      {"link('/linked', {onclick() { location = this.href; return false }}).click()",
+       {"go 5 /linked"}},
+      {"$('frame').contentWindow.eval('parent.link.call(this, \"/linked\")').click()",
+       {"go 0 /linked in /"}},
       {"location.hash = 'inside'", {}},
       {"$('inside').onclick = () => { location.hash = 'inside'; return false }; "
        "$('inside').click()",

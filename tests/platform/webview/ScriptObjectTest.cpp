@@ -64,6 +64,18 @@ TEST_F(ScriptObjectTest, AnswersAndFails) {
                                   "string4", "true", "objectnull"));
 }
 
+// The engine lets no call through then, and the page's handlers go on.
+TEST_F(ScriptObjectTest, IsQuietWhileThePageIsLeft) {
+  site_.page("/", R"(<script>
+    for (const kind of ['beforeunload', 'pagehide', 'unload'])
+      addEventListener(kind, () => { name += kind + Recommender.log('x'.repeat(20000)) + ' ' });
+    onload = () => setTimeout(() => location = '/second')</script>)");
+  site_.page("/second", "<script>Recommender.log(name); Recommender.done()</script>");
+  load("/");
+  ASSERT_TRUE(waitFor("done"));
+  EXPECT_EQ(told(), Told{"beforeunloadnull pagehidenull unloadnull "});
+}
+
 TEST_F(ScriptObjectTest, HasItsMethodsAndNothingElse) {
   ASSERT_TRUE(run(R"(
     tell(Object.getOwnPropertyNames(Recommender).join());

@@ -108,6 +108,7 @@ public:
   void didFailProvisionalLoad(const LoadError& error, bool isMainFrame) override {
     calls.push_back(isMainFrame ? "fail" : "fail in a frame");
     EXPECT_FALSE(error.description.empty());
+    advice = error.advice;
     if (onFail) onFail();
   }
   void windowWillClose() override {
@@ -129,6 +130,7 @@ public:
   }
 
   std::vector<std::string> calls;
+  std::string advice; // of the latest failure
   std::function<void()> onClear, onFail, onClose;
   std::function<std::optional<Value>(std::string_view)> onInvoke;
   std::function<PolicyDecision(const NavigationAction&)> onDecide;

@@ -37,12 +37,18 @@
     host["setWidth:height"](width, Math.round(height));
   }
 
+  // The welcome window waits for its page, and a window that is not there has no outer size. One
+  // that is there before its page was opened for the newsletter.
+  const isNewsletter = () => window.outerWidth > 0 && can("subscribe:");
+
   let shown = false;
   function showWindow() {
     if (shown) return;
     shown = true;
+    const opensAtForm = isNewsletter();
     sizeWindow();
     host.showWindow();
+    if (opensAtForm) openAtForm();
   }
 
   // --- The application -------------------------------------------------------------------------
@@ -124,6 +130,16 @@
     if (mark) mark.textContent = address;
     note.hidden = false;
     find("#email").setAttribute("aria-invalid", String(outcome === "bad"));
+  }
+
+  // Once more when the window has got its size, and the list its place above.
+  function openAtForm() {
+    const field = find("#email");
+    const reveal = () => find("#newsletter").scrollIntoView({ block: "center" });
+    field.focus({ preventScroll: true });
+    reveal();
+    window.addEventListener("resize", reveal);
+    setTimeout(() => window.removeEventListener("resize", reveal), kPatience);
   }
 
   // False for what is no address; the application then says so by itself, too.
