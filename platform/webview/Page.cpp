@@ -7,11 +7,12 @@
 #include <QCoreApplication>
 #include <QWebEngineFileSystemAccessRequest>
 #include <QWebEngineFullScreenRequest>
-#include <QWebEngineQuotaRequest>
 #include <QWebEngineRegisterProtocolHandlerRequest>
 #include <QWebEngineScript>
 #include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
+
+#include "platform/webview/QtVersions.h"
 
 namespace wrenvale::platform {
 
@@ -115,14 +116,9 @@ void Page::settle() {
 }
 
 void Page::refuseRequests() {
-  connect(this, &QWebEnginePage::featurePermissionRequested, this,
-          [this](const QUrl& origin, Feature feature) {
-            setFeaturePermission(origin, feature, PermissionDeniedByUser);
-          });
+  denyPermissions(*this);
   connect(this, &QWebEnginePage::fullScreenRequested, this,
           [](QWebEngineFullScreenRequest request) { request.reject(); });
-  connect(this, &QWebEnginePage::quotaRequested, this,
-          [](QWebEngineQuotaRequest request) { request.reject(); });
   connect(this, &QWebEnginePage::registerProtocolHandlerRequested, this,
           [](QWebEngineRegisterProtocolHandlerRequest request) { request.reject(); });
   connect(this, &QWebEnginePage::fileSystemAccessRequested, this,
