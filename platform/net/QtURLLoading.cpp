@@ -73,6 +73,7 @@ public:
   }
 
 private:
+  // A proxy looks up the host; only its own name is looked up here.
   HTTPAnswer ask(const QUrl& url) const {
     HTTPQuestion question{.url = url,
                           .headers = request_.headers,
@@ -80,35 +81,26 @@ private:
                           .connectDeadline = deadline_,
                           .stop = stop_};
     question.proxy = proxyFor(url);
-    if (question.proxy.type() != QNetworkProxy::NoProxy) return askProxy(question);
-    return isAddress(url.host()) ? httpGet(question) : askEachAddress(question);
+    const bool isDirect = question.proxy.type() == QNetworkProxy::NoProxy;
+    const auto name = isDirect ? url.host(QUrl::FullyEncoded) : question.proxy.hostName();
+    return isAddress(name) ? httpGet(question) : askEachAddress(question, name, isDirect);
   }
 
-  HTTPAnswer askEachAddress(HTTPQuestion& question) const {
-    const auto addresses = lookUp(question.url.host(QUrl::FullyEncoded));
+  HTTPAnswer askEachAddress(HTTPQuestion& question, const QString& name, bool isDirect) const {
+    const auto addresses = addressesOfHost(name.toStdString(), stop_, deadline_);
     HTTPAnswer answer;
     for (std::size_t i = 0; i < addresses.size() && mayGoOn(answer); ++i) {
       const bool isLast = i + 1 == addresses.size();
-      question.address = QString::fromStdString(addresses[i]);
+      const auto address = QString::fromStdString(addresses[i]);
+      if (isDirect)
+        question.address = address;
+      else
+        question.proxy.setHostName(address);
       question.connectDeadline =
           isLast ? deadline_ : std::min(deadline_, Clock::now() + kConnectTime);
       answer = httpGet(question);
     }
     return answer;
-  }
-
-  // The proxy looks up the host; only its own name is looked up here.
-  HTTPAnswer askProxy(HTTPQuestion& question) const {
-    if (!isAddress(question.proxy.hostName())) {
-      const auto addresses = lookUp(question.proxy.hostName());
-      if (addresses.empty()) return {};
-      question.proxy.setHostName(QString::fromStdString(addresses.front()));
-    }
-    return httpGet(question);
-  }
-
-  std::vector<std::string> lookUp(const QString& host) const {
-    return addressesOfHost(host.toStdString(), stop_, deadline_);
   }
 
   bool mayGoOn(const HTTPAnswer& answer) const {
