@@ -140,7 +140,7 @@ void Page::start(const QUrl& url, std::chrono::milliseconds timeout) {
     return;
   }
   timeout_.setInterval(timeout);
-  begin();
+  begin(url);
   load(url);
   setVisible(true); // or the page would be held back until its window shows it
 }
@@ -148,13 +148,14 @@ void Page::start(const QUrl& url, std::chrono::milliseconds timeout) {
 bool Page::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) {
   if (!delegate_ || !isOfTheWeb(url)) return false;
   const bool use = decide(url, remarks_.typeOf(url, type), isMainFrame) == PolicyDecision::kUse;
-  if (use && isMainFrame) begin();
+  if (use && isMainFrame) begin(url);
   return use;
 }
 
 // Redirections share the time that is left. A page that has begun may lead on to another one,
 // before it has shown itself or later, and that has a time of its own.
-void Page::begin() {
+void Page::begin(const QUrl& url) {
+  awaited_ = url;
   if (!delegate_ || timeout_.isActive()) return;
   hasDocument_ = hasFailed_ = false;
   timeout_.start();
@@ -217,6 +218,8 @@ void Page::onEnd(const QWebEngineLoadingInfo& info) {
   using Info = QWebEngineLoadingInfo;
   const bool arrived = hasDocument_ || info.status() == Info::LoadSucceededStatus ||
                        info.errorDomain() == Info::HttpStatusCodeDomain;
+  // From Qt 6.8 on, a page's end may be told after the one that it leads on to has begun.
+  if (arrived && timeout_.isActive() && info.url() != awaited_) return;
   timeout_.stop();
   if (arrived) {
     hadDocument_ = true;
