@@ -104,7 +104,7 @@ void QtRateWindow::Session::close() {
 void QtRateWindow::Session::end() {
   delegate_ = nullptr;
   close();
-  if (widget_) widget_->deleteLater();
+  if (widget_) deleteWindowLater(*widget_);
 }
 
 // Whatever hid or destroyed the window without closing it left nothing that the user could close.

@@ -124,7 +124,7 @@ void QtRecommenderWindow::Session::raiseSheet(const Alert& alert,
   const auto answer = std::make_shared<int>(AlertBox::closedAnswer(alert));
   QObject::connect(box, &QDialog::finished, box, [box, answer] {
     *answer = box->answer();
-    box->deleteLater();
+    deleteWindowLater(*box);
   });
   platform::beginSheet(*box, widget_,
                        [self = shared_from_this(), answer, handler = std::move(handler)](int) {
@@ -144,7 +144,7 @@ void QtRecommenderWindow::Session::close() {
 void QtRecommenderWindow::Session::end() {
   delegate_ = nullptr;
   close();
-  if (widget_) widget_->deleteLater();
+  if (widget_) deleteWindowLater(*widget_);
 }
 
 // Whatever hid or destroyed the window without closing it left nothing that the user could close.

@@ -25,7 +25,8 @@ class PushTransition;
 /// and of no influence on when the host quits. It begins without a focused button, so that a key
 /// meant for another window answers nothing.
 ///
-/// Main thread only. Destroy it with deleteLater(): the events it reports come from within its own.
+/// Main thread only. Destroy it with deleteWindowLater(): the events it reports come from within
+/// its own.
 class RateWindowWidget final : public QWidget {
 public:
   struct Events {

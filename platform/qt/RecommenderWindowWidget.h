@@ -18,7 +18,8 @@ namespace wrenvale::platform {
 
 /// Hidden at first, in the middle of its screen, and of no influence on when the host quits.
 ///
-/// Main thread only. Destroy it with deleteLater(): the events it reports come from within its own.
+/// Main thread only. Destroy it with deleteWindowLater(): the events it reports come from within
+/// its own.
 class RecommenderWindowWidget final : public QWidget {
 public:
   struct Events {

@@ -1,13 +1,31 @@
 #include "platform/qt/Toolkit.h"
 
+#include <cstdlib>
+#include <vector>
+
 #include <QApplication>
+#include <QPointer>
 #include <QStyle>
+#include <QWidget>
 
 namespace wrenvale::platform {
 
 namespace {
+
 constexpr int kAnimationDuration = 250;
+
+// The windows that wait for their deletion. Never destroyed: the process's end needs them.
+std::vector<QPointer<QWidget>>& waiting() {
+  static auto& windows = *new std::vector<QPointer<QWidget>>;
+  return windows;
 }
+
+void keepWaiting() {
+  for (const auto& window : waiting())
+    if (window) QCoreApplication::removePostedEvents(window, QEvent::DeferredDelete);
+}
+
+} // namespace
 
 bool hasWindows() {
   return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
@@ -16,6 +34,13 @@ bool hasWindows() {
 int animationDuration() {
   const bool wanted = QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
   return wanted ? kAnimationDuration : 0;
+}
+
+void deleteWindowLater(QWidget& window) {
+  [[maybe_unused]] static const int registered = std::atexit(keepWaiting);
+  std::erase(waiting(), nullptr);
+  waiting().emplace_back(&window);
+  window.deleteLater();
 }
 
 QString translated(const char* context, const char* text) {

@@ -1,4 +1,4 @@
-// Small questions to the toolkit that the windows share. Main thread only.
+// Small things of the toolkit's that the windows share. Main thread only.
 
 #ifndef WRENVALE_PLATFORM_QT_TOOLKIT_H
 #define WRENVALE_PLATFORM_QT_TOOLKIT_H
@@ -6,6 +6,8 @@
 #include <string_view>
 
 #include <QString>
+
+class QWidget;
 
 namespace wrenvale::platform {
 
@@ -15,6 +17,11 @@ bool hasWindows();
 /// How long one of the framework's animations takes, in milliseconds; 0 when the desktop's style
 /// wants none.
 int animationDuration();
+
+/// Deletes the window as deleteLater() does. One that still waits for that when the process exits
+/// is never deleted: Qt 6.8 would do it from an exit handler, without what it takes to delete a
+/// window.
+void deleteWindowLater(QWidget& window);
 
 /// The host's translation of a text; the text itself when there is none, or an empty one.
 QString translated(const char* context, const char* text);

@@ -7,11 +7,12 @@
 #include <QCoreApplication>
 #include <QWebEngineFileSystemAccessRequest>
 #include <QWebEngineFullScreenRequest>
-#include <QWebEngineQuotaRequest>
 #include <QWebEngineRegisterProtocolHandlerRequest>
 #include <QWebEngineScript>
 #include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
+
+#include "platform/webview/QtVersions.h"
 
 namespace wrenvale::platform {
 
@@ -117,14 +118,9 @@ void Page::settle() {
 }
 
 void Page::refuseRequests() {
-  connect(this, &QWebEnginePage::featurePermissionRequested, this,
-          [this](const QUrl& origin, Feature feature) {
-            setFeaturePermission(origin, feature, PermissionDeniedByUser);
-          });
+  denyPermissions(*this);
   connect(this, &QWebEnginePage::fullScreenRequested, this,
           [](QWebEngineFullScreenRequest request) { request.reject(); });
-  connect(this, &QWebEnginePage::quotaRequested, this,
-          [](QWebEngineQuotaRequest request) { request.reject(); });
   connect(this, &QWebEnginePage::registerProtocolHandlerRequested, this,
           [](QWebEngineRegisterProtocolHandlerRequest request) { request.reject(); });
   connect(this, &QWebEnginePage::fileSystemAccessRequested, this,
@@ -148,7 +144,7 @@ void Page::start(const QUrl& url, std::chrono::milliseconds timeout) {
     return;
   }
   timeout_.setInterval(timeout);
-  begin();
+  begin(url);
   load(url);
   setVisible(true); // or the page would be held back until its window shows it
 }
@@ -156,13 +152,14 @@ void Page::start(const QUrl& url, std::chrono::milliseconds timeout) {
 bool Page::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) {
   if (!delegate_ || !isOfTheWeb(url)) return false;
   const bool use = decide(url, remarks_.typeOf(url, type), isMainFrame) == PolicyDecision::kUse;
-  if (use && isMainFrame) begin();
+  if (use && isMainFrame) begin(url);
   return use;
 }
 
 // Redirections share the time that is left. A page that has begun may lead on to another one,
 // before it has shown itself or later, and that has a time of its own.
-void Page::begin() {
+void Page::begin(const QUrl& url) {
+  awaited_ = url;
   if (!delegate_ || timeout_.isActive()) return;
   hasDocument_ = hasFailed_ = false;
   timeout_.start();
@@ -222,6 +219,8 @@ void Page::onEnd(const QWebEngineLoadingInfo& info) {
   using Info = QWebEngineLoadingInfo;
   const bool arrived = hasDocument_ || info.status() == Info::LoadSucceededStatus ||
                        info.errorDomain() == Info::HttpStatusCodeDomain;
+  // From Qt 6.8 on, a page's end may be told after the one that it leads on to has begun.
+  if (arrived && timeout_.isActive() && info.url() != awaited_) return;
   timeout_.stop();
   if (arrived) {
     hadDocument_ = true;

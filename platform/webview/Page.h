@@ -46,7 +46,7 @@ private:
   void settle();
   void refuseRequests();
   void insertScripts();
-  void begin();
+  void begin(const QUrl& url);
   bool greet(const QUrl& origin, QString& result);
   bool perform(const QString& message, QString& result);
   void onLoading(const QWebEngineLoadingInfo& info);
@@ -60,6 +60,7 @@ private:
   ScriptObject scriptObject_;
   NavigationRemarks remarks_;
   QTimer timeout_;
+  QUrl awaited_;             // what the page last went to
   bool hasDocument_ = false; // since this navigation began
   bool hadDocument_ = false; // ever
   bool hasFailed_ = false;   // since this navigation began, and it has been told

@@ -1,5 +1,6 @@
 #include "platform/webview/QtWebView.h"
 
+#include <QChildEvent>
 #include <QQuickItem>
 #include <QQuickWidget>
 #include <QQuickWindow>
@@ -36,9 +37,11 @@ public:
   using QWebEngineView::QWebEngineView;
 
 protected:
-  // Each page has a widget to draw in, and the first one brings what it is drawn with.
+  // Each page has a widget to draw in, and the first one brings what it is drawn with. The engine
+  // deletes that widget later than the page, which is too late at the end of the process.
   void childEvent(QChildEvent* event) override {
     QWebEngineView::childEvent(event);
+    if (event->added()) destroyBeforeEngine({event->child()});
     endBeforeEngine();
     if (event->added()) event->child()->installEventFilter(this);
   }

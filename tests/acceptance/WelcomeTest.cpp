@@ -80,7 +80,7 @@ bool isRunning(const Home& home) {
 TEST_F(Welcome, EndsWithItsHostAndLeavesNothing) {
   const auto temporary = home_.folder() / "tmp";
   fs::create_directories(temporary);
-  for (const std::string end : {"quit", "exit", "delete", "again"})
+  for (const std::string end : {"quit", "exit", "close", "delete", "again"})
     for (const std::string time : {"0", "120", "250", "700", "shown"}) {
       SCOPED_TRACE(end + " after " + time);
       shows_ = time == "shown";

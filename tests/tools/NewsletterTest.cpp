@@ -119,13 +119,14 @@ TEST(Newsletter, BadDataIsRefusedAndLeavesNothing) {
       {"empty", "", "no data"},
       {"what a host without encryption sends", "(null)", "could not encrypt"},
       {"no base64", "!" + good.substr(1), "no base64"},
-      {"cut off", good.substr(0, 100), "not encrypted"},
+      {"cut off", good.substr(0, 100), "encrypted for"},
       {"cut within a group", good.substr(0, 102), "no base64"},
       {"base64 with a line break", good.substr(0, 64) + "\n" + good.substr(64), "no base64"},
       {"nothing but padding", "====", "no base64"},
-      {"not encrypted", base64Encoded("email=ann@brenmoor.example"), "not encrypted"},
-      {"other text", made("mail=ann@brenmoor.example"), "does not begin"},
-      {"address only", made("ann@brenmoor.example"), "does not begin"},
+      {"not encrypted", base64Encoded("email=ann@brenmoor.example"), "encrypted for"},
+      {"another key", base64For(theirs.publicKey, "email=ann@brenmoor.example"), "encrypted for"},
+      {"other text", made("mail=ann@brenmoor.example"), "encrypted for"},
+      {"address only", made("ann@brenmoor.example"), "encrypted for"},
       {"no address", made("email="), "no e-mail address"},
       {"no name", made("email=@brenmoor.example"), "no e-mail address"},
       {"no domain", made("email=ann@"), "no e-mail address"},
@@ -143,9 +144,6 @@ TEST(Newsletter, BadDataIsRefusedAndLeavesNothing) {
     EXPECT_THAT(result->body, HasSubstr(row.fault)) << row.name;
     EXPECT_THAT(server.line(), HasSubstr(" 400 GET /store/subscribe.php")) << row.name;
   }
-  // A newer library answers a wrong key with random text.
-  const auto other = urlEncoded(base64For(theirs.publicKey, "email=ann@brenmoor.example"));
-  EXPECT_EQ(client.Get("/store/subscribe.php?data=" + other)->status, 400);
   EXPECT_EQ(client.Get("/store/subscribe.php")->status, 400);
   EXPECT_EQ(client.Head("/store/subscribe.php?data=" + urlEncoded(good))->status, 404);
   EXPECT_EQ(client.Get("/store/subscribe.php?data=" + std::string(20000, 'A'))->status, 414);

@@ -55,7 +55,7 @@ double numberOf(const Value& value) {
   return value.real() ? *value.real() : static_cast<double>(integerValue(value));
 }
 
-std::string quoted(std::string_view key) {
+std::string inQuotes(std::string_view key) {
   return '"' + std::string(key) + '"';
 }
 
@@ -84,7 +84,7 @@ private:
   void checkKeywords(const Value& schema) {
     for (std::size_t i = 0; i < schema.size(); ++i)
       if (std::ranges::find(kKeywords, schema.keyAt(i)) == std::end(kKeywords))
-        complain("", "this program does not know " + quoted(schema.keyAt(i)) + " in the schema");
+        complain("", "this program does not know " + inQuotes(schema.keyAt(i)) + " in the schema");
   }
 
   Value definition(std::string_view reference) const {
@@ -135,28 +135,28 @@ private:
       if (properties.contains(key))
         check(object.at(i), properties.find(key), child);
       else if (closed)
-        complain(child, "there is no key " + quoted(key) + " here");
+        complain(child, "there is no key " + inQuotes(key) + " here");
     }
     require(object, schema.find("required"), pointer, "");
     const auto dependent = schema.find("dependentRequired");
     for (std::size_t i = 0; i < dependent.size(); ++i)
       if (object.contains(dependent.keyAt(i)))
         require(object, dependent.at(i), childOf(pointer, dependent.keyAt(i)),
-                quoted(dependent.keyAt(i)) + " does nothing: ");
+                inQuotes(dependent.keyAt(i)) + " does nothing: ");
   }
 
   void require(const Value& object, const Value& keys, const std::string& pointer,
                const std::string& prefix) {
     for (std::size_t i = 0; i < keys.size(); ++i)
       if (const auto key = stringValue(keys.at(i)).value_or(""); !object.contains(key))
-        complain(pointer, prefix + quoted(key) + " is missing");
+        complain(pointer, prefix + inQuotes(key) + " is missing");
   }
 
   static std::string subject(const std::string& pointer) {
     if (pointer.empty()) return "the document";
     const auto last = pointer.substr(pointer.rfind('/') + 1);
     const bool isIndex = std::ranges::all_of(last, [](char c) { return c >= '0' && c <= '9'; });
-    return isIndex ? "this" : quoted(last);
+    return isIndex ? "this" : inQuotes(last);
   }
 
   static std::string noun(const Value& schema, const std::string& pointer) {

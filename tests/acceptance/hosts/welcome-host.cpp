@@ -4,6 +4,7 @@
 //   exit    it ends from inside its event loop, with its application object still there; says
 //           "in order" if Qt's routines for the end are called all the same. Once the window is
 //           shown, a child process does so before
+//   close   it closes all windows, and ends like "exit" before anything of them is deleted
 //   delete  it deletes all windows that there are, and leaves its event loop
 //   again   it does the whole once more with another application object, in the same process
 
@@ -57,7 +58,8 @@ int run(int argc, char** argv, const char* end, const char* time) {
   QObject::connect(&timer, &QTimer::timeout, application, [&timer, end, waits] {
     if (waits && !isWindowShown()) return;
     timer.stop();
-    if (std::strcmp(end, "exit") == 0) endWithoutUnwinding(waits);
+    if (std::strcmp(end, "close") == 0) QApplication::closeAllWindows();
+    if (std::strcmp(end, "close") == 0 || std::strcmp(end, "exit") == 0) endWithoutUnwinding(waits);
     if (std::strcmp(end, "delete") == 0) deleteAllWindows();
     QCoreApplication::quit();
   });

@@ -1,5 +1,6 @@
 #include "platform/linux/PropertyList.h"
 
+#include <cstdlib>
 #include <limits>
 
 #include <gtest/gtest.h>
@@ -57,7 +58,7 @@ std::string inLibplistsXML(std::string_view binary) {
   std::uint32_t size = 0;
   plist_to_xml(node, &text, &size);
   std::string xml(text, size);
-  plist_to_xml_free(text);
+  std::free(text); // each release has a function of another name for it
   plist_free(node);
   return xml;
 }

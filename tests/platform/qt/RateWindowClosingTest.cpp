@@ -1,6 +1,7 @@
 #include "RateWindowFixture.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <optional>
 
 namespace wrenvale::platform {
@@ -101,6 +102,13 @@ TEST_F(QtRateWindowClosingTest, ADelegateThatDisagreesKeepsItOpen) {
   widget()->close();
   EXPECT_FALSE(widget()->isVisible());
   EXPECT_EQ(asked(), 2);
+}
+
+// While the window still waits for its deletion. In a process of its own, not a forked one: that
+// would share this one's display.
+TEST_F(QtRateWindowClosingTest, TheHostMayExitInTheSameTurn) {
+  GTEST_FLAG_SET(death_test_style, "threadsafe");
+  EXPECT_EXIT(open(); window_.reset(); std::exit(0), testing::ExitedWithCode(0), "");
 }
 
 TEST_F(QtRateWindowClosingTest, CommandsOfTheDelegateAskNothing) {
