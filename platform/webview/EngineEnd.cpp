@@ -7,6 +7,7 @@
 #include <vector>
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QPointer>
 
 QT_BEGIN_NAMESPACE
@@ -28,6 +29,12 @@ State& state() {
   return state;
 }
 
+// Nobody destroys them: from Qt 6.8 on, exit() would otherwise deliver what is posted for deletion.
+void keep() {
+  for (const auto& object : state().objects)
+    if (object) QCoreApplication::removePostedEvents(object, QEvent::DeferredDelete);
+}
+
 void end() {
   state().hasEnded = true;
   for (const auto& object : std::exchange(state().objects, {}))
@@ -37,11 +44,15 @@ void end() {
 // A host may exit() with its application object still there, and the engine's statics would be
 // destroyed while its threads still draw. The main thread's own objects go before all statics, the
 // latest of them first: this one is destroyed while the engine is whole, and gives it the orderly
-// end. A child process that was only forked has no threads to end.
+// end. A child process that was only forked has no threads to end, and what needs them stays.
 class EndOnExit {
 public:
   ~EndOnExit() {
-    if (!state().hasEnded && ::getpid() == process_) qt_call_post_routines();
+    if (state().hasEnded) return;
+    if (::getpid() == process_)
+      qt_call_post_routines();
+    else
+      keep();
   }
 
 private:
