@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <fstream>
-#include <iterator>
 
 namespace wrenvale::kit {
 
@@ -58,11 +57,16 @@ std::string contentType(const fs::path& file) {
   return "application/octet-stream";
 }
 
-std::optional<std::string> contentsOf(const fs::path& file) {
+std::optional<std::string> contentsOf(const fs::path& file, std::size_t longest) {
   std::ifstream stream(file, std::ios::binary);
   std::error_code error;
   if (!stream || fs::is_directory(file, error)) return std::nullopt;
-  return std::string(std::istreambuf_iterator<char>(stream), {});
+  std::string contents;
+  char piece[1U << 16U];
+  while (contents.size() < longest && (stream.read(piece, sizeof piece), stream.gcount() > 0))
+    contents.append(piece, static_cast<std::size_t>(stream.gcount()));
+  contents.resize(std::min(contents.size(), longest));
+  return contents;
 }
 
 } // namespace wrenvale::kit
