@@ -87,7 +87,7 @@ TEST(Serve, TellsOfEveryRequestAndEndsWhenAsked) {
     const httplib::Headers agent = {{"User-Agent", "Photo%20Tool/1204 \x1b[2J\"x\""}};
     EXPECT_EQ(client.Get("/store/reset_US_en.json?q=%1b", agent)->status, 200);
     EXPECT_THAT(server.line(), EndsWith(" 200 GET /store/reset_US_en.json?q=%1b "
-                                        R"("Photo%20Tool/1204 \x1b[2J\x22x\x22")"));
+                                        R"("Photo Tool/1204 \x1b[2J\x22x\x22")"));
     EXPECT_EQ(client.Post("/store/reset_US_en.json", "body", "text/plain")->status, 405);
     EXPECT_THAT(server.line(), HasSubstr(" 405 POST /store/reset_US_en.json "));
     EXPECT_EQ(server.end(signal), 0);

@@ -20,6 +20,7 @@ namespace {
 using HandlerResponse = httplib::Server::HandlerResponse;
 
 constexpr std::size_t kLongestBody = std::size_t(1) << 20U;
+constexpr std::time_t kPatience = 1; // seconds
 constexpr const char* kPlainText = "text/plain; charset=utf-8";
 
 std::string localTime() {
@@ -48,6 +49,10 @@ DevelopmentServer::DevelopmentServer(std::filesystem::path folder, Newsletter ne
     , newsletter_(std::move(newsletter))
     , log_(std::move(log)) {
   server_.set_socket_options(allowQuickRestart);
+  server_.set_keep_alive_max_count(1);
+  server_.set_keep_alive_timeout(kPatience);
+  server_.set_read_timeout(kPatience);
+  server_.set_write_timeout(kPatience);
   server_.set_payload_max_length(kLongestBody);
   server_.set_default_headers({{"Cache-Control", "no-store"}});
   server_.set_pre_routing_handler([this](const auto& request, auto& response) {
