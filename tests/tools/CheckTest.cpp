@@ -178,7 +178,7 @@ TEST(Check, AnswersItsCommandLine) {
     int status;
     const char* says;
   } rows[] = {
-      {"--site " + site, 0, "13 documents: 0 errors, 0 warnings\n"},
+      {"--site " + site, 0, "25 documents: 0 errors, 0 warnings\n"},
       {site + "/store/reset_US_en.json", 0, "1 document: 0 errors, 0 warnings\n"},
       {folder.path("/bad.json"), 1, ":1:2: error: this must be"},
       {folder.path("/none.json"), 1, "none.json: error: cannot be read\n"},

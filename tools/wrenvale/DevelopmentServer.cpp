@@ -96,7 +96,7 @@ void DevelopmentServer::answer(const httplib::Request& request, httplib::Respons
     return subscribe(request, response);
   if (const auto page = redirectPage(request.path))
     return response.set_content(*page, "text/html; charset=utf-8");
-  const auto file = siteFile(folder_, request.path);
+  const auto file = answeringFile(folder_, request.path);
   const auto contents = file ? contentsOf(*file) : std::nullopt;
   if (!contents) return refuse(response, 404, "There is no such file.\n");
   response.set_content(*contents, contentType(*file));

@@ -18,6 +18,11 @@ namespace wrenvale::kit {
 std::optional<std::filesystem::path> siteFile(const std::filesystem::path& folder,
                                               std::string_view path);
 
+/// The same for a request of a host: the newsletter page of a country that has none,
+/// "/store/newsletter/index_<country>.html", is the page of no country, "index_EN.html".
+std::optional<std::filesystem::path> answeringFile(const std::filesystem::path& folder,
+                                                   std::string_view path);
+
 /// The media type that the file's name stands for, text in UTF-8.
 std::string contentType(const std::filesystem::path& file);
 
