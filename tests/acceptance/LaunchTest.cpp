@@ -39,8 +39,8 @@ TEST(Launch, FirstNormalAndUpdateLaunchDiffer) {
   auto resets = server.requests();
   std::erase_if(resets, [](auto& request) { return request.path != "/store/reset_US_en.json"; });
   ASSERT_EQ(resets.size(), 3U);
-  EXPECT_EQ(resets[0].userAgent.find("Photo%20Tool/1204 123456789 Darwin/"), 0U);
-  EXPECT_EQ(resets[2].userAgent.find("Photo%20Tool/1205 123456789 Darwin/"), 0U);
+  EXPECT_EQ(resets[0].userAgent.find("Photo Tool/1204 123456789 Darwin/"), 0U);
+  EXPECT_EQ(resets[2].userAgent.find("Photo Tool/1205 123456789 Darwin/"), 0U);
 }
 
 std::string nested(std::size_t depth) {

@@ -39,6 +39,8 @@ VendorServer::VendorServer(Handler handler)
     }
     handler(request, response);
   };
+  server_.set_keep_alive_max_count(1);
+  server_.set_keep_alive_timeout(1);
   server_.Get(".*", answer);
   server_.set_socket_options(takeOverFromTheDead);
   if (!server_.bind_to_port("127.0.0.1", VENDOR_PORT))

@@ -9,13 +9,13 @@
 #include <thread>
 #include <vector>
 
-#include "tools/wrenvale/VerbatimServer.h"
+#include <httplib.h>
 
 namespace wrenvale::tests {
 
 struct SeenRequest {
   std::string path;
-  std::string userAgent;
+  std::string userAgent; ///< percent-decoded
 };
 
 /// Only one process on the machine may have the address: a file lock keeps tests of other build
@@ -36,7 +36,7 @@ private:
   int lock_;
   mutable std::mutex mutex_;
   std::vector<SeenRequest> requests_;
-  kit::VerbatimServer server_;
+  httplib::Server server_;
   std::thread thread_;
 };
 

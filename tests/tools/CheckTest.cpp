@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 
+#include <ctime>
+
 #include "tests/platform/linux/TemporaryFolder.h"
 #include "tests/tools/KitRun.h"
 #include "tools/wrenvale/Check.h"
@@ -56,6 +58,13 @@ TEST(Check, SaysWhatIsWrongAndWhere) {
         "3:18: error: this key stands here twice; only the last counts",
         "3:51: error: this key stands here twice; only the last counts",
         "3:67: error: \"brick\" must be an address such as \"https://example.com/page\""}},
+      {"/x.json", app(R"(, "media": "https://)" + std::string(50'000, 'm') + '"'), {}},
+      {"/x.json",
+       app("}],\n\"apps\": [{\"x\": 1"),
+       {"3:1: error: this key stands here twice; only the last counts",
+        "3:10: error: \"bundle_id\" is missing", "3:10: error: \"sp_name\" is missing",
+        "3:10: error: \"sp_icon\" is missing", "3:10: error: \"link\" is missing",
+        "3:11: error: there is no key \"x\" here"}},
       {"/x.json",
        app("},\n{\"bundle_id\": \"com.b\", \"sp_name\": \"\", \"link\": \"https://b/\""),
        {"3:1: error: \"sp_icon\" is missing",
@@ -95,6 +104,52 @@ TEST(Check, SaysWhatIsWrongAndWhere) {
   }
 }
 
+std::string times(std::size_t count, const std::string& text) {
+  std::string result;
+  for (std::size_t i = 0; i < count; ++i)
+    result += text;
+  return result;
+}
+
+TEST(Check, GetsToTheEndOfEverything) {
+  const TemporaryFolder folder;
+  const std::pair<std::string, const char*> rows[] = {
+      {"", ":1:1: error: the text ends too early"},
+      {std::string(100, '\0'), ":1:1: error: "},
+      {"{\"a\": \"\xFF\"}", ":1:8: error: the text is not UTF-8"},
+      {std::string(3'000'000, '['), ":1:513: error: nested too deeply"},
+      {times(3'000'000, "{\"a\":"), "error: nested too deeply"},
+      {"[" + std::string(3'000'000, '9') + "]", ":1:2: error: a number is too large"},
+      {std::string(17'000'000, ' '), "bad.json: error: hosts take no more than 16 MiB"},
+  };
+  for (const auto& [text, says] : rows) {
+    folder.write("/bad.json", text);
+    const auto output = runKit("check " + folder.path("/bad.json"));
+    EXPECT_EQ(output.status, 1) << says << "\n" << output.text;
+    EXPECT_THAT(output.text, HasSubstr(says));
+  }
+  for (const auto& file : {folder.path(), std::string("/dev/zero")})
+    EXPECT_EQ(runKit("check " + file).status, 1) << file;
+}
+
+TEST(Check, TakesItsTimeByTheLengthOfTheText) {
+  constexpr std::size_t count = 10'000;
+  const TemporaryFolder folder;
+  const std::pair<const char*, std::string> rows[] = {
+      {"/good.json", app(times(count, R"(}, {"bundle_id": "com.b", "link": "https://b/")"))},
+      {"/keys.json", app(times(count, R"(, "a": 1, "b": 2)"))},
+      {"/reset_US_en.json",
+       "[1" + times(count, R"(, {"bundle_id": "com.a", "max_build_number": 3})") + "]"},
+  };
+  for (const auto& [file, text] : rows) {
+    folder.write(file, text);
+    const auto begin = std::clock();
+    EXPECT_GE(check({folder.path(file)}, std::nullopt).findings.size(), count) << file;
+    const auto seconds = double(std::clock() - begin) / CLOCKS_PER_SEC;
+    EXPECT_LT(seconds, 0.5) << file;
+  }
+}
+
 TEST(Check, KnowsWhatASiteLacks) {
   EXPECT_THAT(shown(checkSite(EXAMPLE_SITE)), testing::IsEmpty());
 
@@ -123,7 +178,7 @@ TEST(Check, AnswersItsCommandLine) {
     int status;
     const char* says;
   } rows[] = {
-      {"--site " + site, 0, "13 documents: 0 errors, 0 warnings\n"},
+      {"--site " + site, 0, "25 documents: 0 errors, 0 warnings\n"},
       {site + "/store/reset_US_en.json", 0, "1 document: 0 errors, 0 warnings\n"},
       {folder.path("/bad.json"), 1, ":1:2: error: this must be"},
       {folder.path("/none.json"), 1, "none.json: error: cannot be read\n"},

@@ -47,8 +47,8 @@ TEST(LogLine, ShowsNothingThatATerminalWouldObey) {
                           .status = 200,
                           .method = "GET",
                           .target = "/a?b=c%20d",
-                          .userAgent = "Photo%20Tool/1204 1 (x)"};
-  EXPECT_EQ(logLine(request), "12:00:01 200 GET /a?b=c%20d \"Photo%20Tool/1204 1 (x)\"");
+                          .userAgent = "Photo Tool/1204 1 (x)"};
+  EXPECT_EQ(logLine(request), "12:00:01 200 GET /a?b=c%20d \"Photo Tool/1204 1 (x)\"");
   request.method = request.userAgent = "";
   EXPECT_EQ(logLine(request), "12:00:01 200 - /a?b=c%20d \"-\"");
 

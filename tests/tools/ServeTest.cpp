@@ -30,6 +30,8 @@ TEST(Serve, GivesTheFilesOfTheFolderAndNoOthers) {
   folder.write("/site/s/icon.svg", "svg");
   folder.write("/site/s/icon.png", "png");
   folder.write("/site/s/file.unheard-of", "bytes");
+  folder.write("/site/store/newsletter/index_EN.html", "page of no country");
+  folder.write("/site/store/newsletter/index_DE.html", "German page");
   folder.write("/site-too/secret.json", "secret");
   std::filesystem::create_symlink(outside.path("/secret.json"), folder.path("/site/link.json"));
   std::filesystem::create_symlink("a b.json", folder.path("/site/inside.json"));
@@ -53,6 +55,14 @@ TEST(Serve, GivesTheFilesOfTheFolderAndNoOthers) {
       {"/s/icon.png", 200, "image/png", "png"},
       {"/s/file.unheard-of", 200, "application/octet-stream", "bytes"},
       {"/app_redirect/twitter", 200, "text/html; charset=utf-8", "social feed"},
+      {"/store/newsletter/index_DE.html", 200, "text/html; charset=utf-8", "German page"},
+      {"/store/newsletter/index_BR.html", 200, "text/html; charset=utf-8", "page of no country"},
+      {"/store/newsletter/index_419.html?x", 200, "text/html; charset=utf-8", "page of no country"},
+      {"/store/newsletter/index_.html", 404, "", ""},
+      {"/store/newsletter/index_a%2f.html", 404, "", ""},
+      {"/store/newsletter/intro_BR.html", 404, "", ""},
+      {"/store/newsletter/index_BR.css", 404, "", ""},
+      {"/store/index_BR.html", 404, "", ""},
       {"/s/", 404, "", ""}, // no list of the folder
       {"/s", 404, "", ""},
       {"/index.html/", 404, "", ""},
@@ -87,7 +97,7 @@ TEST(Serve, TellsOfEveryRequestAndEndsWhenAsked) {
     const httplib::Headers agent = {{"User-Agent", "Photo%20Tool/1204 \x9b[2J\"x\""}};
     EXPECT_EQ(client.Get("/store/reset_US_en.json?q=%1b", agent)->status, 200);
     EXPECT_THAT(server.line(), EndsWith(" 200 GET /store/reset_US_en.json?q=%1b "
-                                        R"("Photo%20Tool/1204 \x9b[2J\x22x\x22")"));
+                                        R"("Photo Tool/1204 \x9b[2J\x22x\x22")"));
     EXPECT_EQ(client.Post("/store/reset_US_en.json", "body", "text/plain")->status, 405);
     EXPECT_THAT(server.line(), HasSubstr(" 405 POST /store/reset_US_en.json "));
     EXPECT_EQ(server.end(signal), 0);

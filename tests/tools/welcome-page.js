@@ -6,7 +6,6 @@
     return Boolean(element) && element.offsetParent !== null;
   };
   const text = (selector) => document.querySelector(selector).textContent.trim();
-  const german = document.documentElement.lang === "de";
 
   if (!window.Recommender) {
     const inHost = ["#store", "#newsletter", "#recommended", "#nothing", ".in-host"].find(shown);
@@ -23,7 +22,7 @@
   if (!shown("#news") || !shown("#newsletter") || !shown("#store") || shown("#nothing"))
     return "a section is missing, or too much";
   if (document.querySelectorAll(".app").length !== 1 || text(".app h3") !== "Lamplight") return "no list";
-  const support = `app_redirect/support_US_${german ? "de" : "en"}/com.example.phototool`;
+  const support = `app_redirect/support_US_${document.documentElement.lang}/com.example.phototool`;
   if (!document.querySelector("#support").href.endsWith(support)) return "no way to the support";
 
   const subscribe = (address) => {

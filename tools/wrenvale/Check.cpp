@@ -28,6 +28,8 @@ using enum Finding::Weight;
 constexpr std::string_view kReset = "reset_";
 constexpr std::string_view kRecommender = "recommender_";
 constexpr std::string_view kExtension = ".json";
+// What platform::URLLoading takes.
+constexpr std::size_t kLongestDocument = 16 * 1024 * 1024;
 
 struct Document {
   fs::path file;
@@ -47,18 +49,17 @@ bool isReset(const Document& document) {
   return !name.starts_with(kRecommender) && document.value.isArray();
 }
 
-std::string placeIn(const Document& document, std::size_t offset) {
-  const auto place = placeOf(document.text, offset);
-  return document.file.string() + ':' + std::to_string(place.line) + ':' +
-         std::to_string(place.column);
+std::string shown(const fs::path& file, const TextPlace& place) {
+  return file.string() + ':' + std::to_string(place.line) + ':' + std::to_string(place.column);
 }
 
 // Nothing, after a finding, for a file that holds no document.
 std::optional<Document> read(const fs::path& file, CheckReport& report) {
   ++report.documents;
-  const auto text = contentsOf(file);
-  if (!text) {
-    report.findings.push_back({file, Error, "cannot be read"});
+  const auto text = contentsOf(file, kLongestDocument + 1);
+  if (!text || text->size() > kLongestDocument) {
+    const char* fault = text ? "hosts take no more than 16 MiB" : "cannot be read";
+    report.findings.push_back({file, Error, fault});
     return std::nullopt;
   }
   Document document{.file = file, .text = *text, .value = {}};
@@ -67,7 +68,8 @@ std::optional<Document> read(const fs::path& file, CheckReport& report) {
     document.value = *result.object;
     return document;
   }
-  report.findings.push_back({placeIn(document, result.errorOffset), Error, result.error});
+  const auto place = TextPlaces(*text).placeOf(result.errorOffset);
+  report.findings.push_back({shown(file, place), Error, result.error});
   return std::nullopt;
 }
 
@@ -90,29 +92,41 @@ Findings missingIcons(const Value& document, const fs::path& site) {
 Findings findingsIn(const Document& document, const std::optional<fs::path>& site,
                     const Identifiers& known) {
   if (isReset(document)) {
-    static const Value schema = parsed(wrenvale_reset_schema, wrenvale_reset_schema_size);
-    auto findings = findingsBySchema(document.value, schema);
+    static const JSONSchema schema(parsed(wrenvale_reset_schema, wrenvale_reset_schema_size));
+    auto findings = schema.findingsIn(document.value);
     add(findings, senseOfReset(document.value));
     return findings;
   }
-  static const Value schema = parsed(wrenvale_recommender_schema, wrenvale_recommender_schema_size);
-  auto findings = findingsBySchema(document.value, schema);
+  static const JSONSchema schema(
+      parsed(wrenvale_recommender_schema, wrenvale_recommender_schema_size));
+  auto findings = schema.findingsIn(document.value);
   add(findings, senseOfRecommender(document.value, known));
   if (site) add(findings, missingIcons(document.value, *site));
   return findings;
 }
 
+std::vector<std::string> pointersOf(const Findings& findings) {
+  std::vector<std::string> pointers;
+  for (const auto& finding : findings)
+    pointers.push_back(finding.pointer);
+  return pointers;
+}
+
 void checkDocument(const Document& document, const std::optional<fs::path>& site,
                    const Identifiers& known, CheckReport& report) {
-  const JSONPlaces places(document.text);
   auto findings = findingsIn(document, site, known);
-  for (const auto& pointer : places.repeated())
-    findings.push_back({pointer, Error, "this key stands here twice; only the last counts"});
-  std::ranges::stable_sort(
-      findings, {}, [&](const Finding& finding) { return places.offsetOf(finding.pointer); });
+  const JSONPlaces places(document.text, pointersOf(findings));
+  std::vector<std::pair<std::size_t, const Finding*>> placed;
   for (const auto& finding : findings)
+    placed.emplace_back(places.offsetOf(finding.pointer), &finding);
+  static const Finding repeated{"", Error, "this key stands here twice; only the last counts"};
+  for (const auto offset : places.repeated())
+    placed.emplace_back(offset, &repeated);
+  std::ranges::stable_sort(placed, {}, [](const auto& row) { return row.first; });
+  TextPlaces textPlaces(document.text);
+  for (const auto& [offset, finding] : placed)
     report.findings.push_back(
-        {placeIn(document, places.offsetOf(finding.pointer)), finding.weight, finding.text});
+        {shown(document.file, textPlaces.placeOf(offset)), finding->weight, finding->text});
 }
 
 std::vector<fs::path> documentsIn(const fs::path& folder) {

@@ -20,6 +20,7 @@ namespace {
 using HandlerResponse = httplib::Server::HandlerResponse;
 
 constexpr std::size_t kLongestBody = std::size_t(1) << 20U;
+constexpr std::time_t kPatience = 1; // seconds
 constexpr const char* kPlainText = "text/plain; charset=utf-8";
 
 std::string localTime() {
@@ -48,6 +49,10 @@ DevelopmentServer::DevelopmentServer(std::filesystem::path folder, Newsletter ne
     , newsletter_(std::move(newsletter))
     , log_(std::move(log)) {
   server_.set_socket_options(allowQuickRestart);
+  server_.set_keep_alive_max_count(1);
+  server_.set_keep_alive_timeout(kPatience);
+  server_.set_read_timeout(kPatience);
+  server_.set_write_timeout(kPatience);
   server_.set_payload_max_length(kLongestBody);
   server_.set_default_headers({{"Cache-Control", "no-store"}});
   server_.set_pre_routing_handler([this](const auto& request, auto& response) {
@@ -91,7 +96,7 @@ void DevelopmentServer::answer(const httplib::Request& request, httplib::Respons
     return subscribe(request, response);
   if (const auto page = redirectPage(request.path))
     return response.set_content(*page, "text/html; charset=utf-8");
-  const auto file = siteFile(folder_, request.path);
+  const auto file = answeringFile(folder_, request.path);
   const auto contents = file ? contentsOf(*file) : std::nullopt;
   if (!contents) return refuse(response, 404, "There is no such file.\n");
   response.set_content(*contents, contentType(*file));

@@ -8,15 +8,16 @@
 #include <mutex>
 #include <string>
 
+#include <httplib.h>
+
 #include "tools/wrenvale/ListenAddress.h"
 #include "tools/wrenvale/Newsletter.h"
-#include "tools/wrenvale/VerbatimServer.h"
 
 namespace wrenvale::kit {
 
 /// Answers GET and HEAD with the files of a folder, and the addresses of redirects with a page that
 /// says where they lead; takes in subscriptions to the newsletter. Nothing may be kept in a cache:
-/// the folder is being worked on.
+/// the folder is being worked on. One request is answered for each connection.
 class DevelopmentServer {
 public:
   using Log = std::function<void(const std::string& line)>;
@@ -42,7 +43,7 @@ private:
   const Newsletter newsletter_;
   const Log log_;
   std::mutex logging_;
-  VerbatimServer server_;
+  httplib::Server server_;
 };
 
 } // namespace wrenvale::kit

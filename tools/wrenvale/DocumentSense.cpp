@@ -1,7 +1,7 @@
 #include "tools/wrenvale/DocumentSense.h"
 
-#include <algorithm>
-#include <vector>
+#include <iterator>
+#include <map>
 
 #include "recommend/RecommenderDocument.h"
 #include "tools/wrenvale/JSONPlaces.h"
@@ -17,20 +17,24 @@ std::string textOf(const Text& text) {
   return std::string(text ? *text : std::string_view());
 }
 
-// A generation of the reset document.
-struct Generation {
-  explicit Generation(const Value& entry)
-      : bundleID(stringValue(entry.find("bundle_id")))
-      , lowest(integerValue(entry.find("min_build_number")))
-      , highest(integerValue(entry.find("max_build_number"))) {}
-
-  bool covers(const Generation& other) const {
-    return bundleID == other.bundleID && lowest <= other.lowest && other.highest <= highest;
+// The builds for which a host has generations already.
+class TakenBuilds {
+public:
+  // Whether an earlier range contains all of this one.
+  bool contain(std::int64_t lowest, std::int64_t highest) const {
+    const auto next = ranges_.upper_bound(lowest);
+    return next != ranges_.begin() && highest <= std::prev(next)->second;
   }
 
-  std::optional<std::string> bundleID;
-  std::int64_t lowest;
-  std::int64_t highest;
+  // A range that no earlier one contains.
+  void add(std::int64_t lowest, std::int64_t highest) {
+    auto next = ranges_.insert_or_assign(lowest, highest).first;
+    for (++next; next != ranges_.end() && next->second <= highest;)
+      next = ranges_.erase(next);
+  }
+
+private:
+  std::map<std::int64_t, std::int64_t> ranges_; ///< none contains another: both ends ascend
 };
 
 // The findings about one list of identifiers, one of which is for naught when it stands twice.
@@ -76,20 +80,22 @@ Identifiers identifiersIn(const Value& recommenderDocument) {
 
 Findings senseOfReset(const Value& document) {
   Findings findings;
-  std::vector<Generation> earlier;
+  std::map<std::optional<std::string>, TakenBuilds> takenBuilds;
   for (std::size_t i = 0; i < document.size(); ++i) {
     const Value entry = document.at(i);
     if (!entry.contains("max_build_number")) continue;
-    const Generation generation(entry);
+    const auto lowest = integerValue(entry.find("min_build_number"));
+    const auto highest = integerValue(entry.find("max_build_number"));
     const auto place = childOf(childOf("", i), "max_build_number");
-    const auto covers = [&](const Generation& other) { return other.covers(generation); };
-    if (generation.lowest > generation.highest)
-      findings.push_back({place, Error,
-                          "no build is from " + std::to_string(generation.lowest) + " to " +
-                              std::to_string(generation.highest)});
-    else if (std::ranges::any_of(earlier, covers))
+    auto& taken = takenBuilds[stringValue(entry.find("bundle_id"))];
+    if (lowest > highest)
+      findings.push_back(
+          {place, Error,
+           "no build is from " + std::to_string(lowest) + " to " + std::to_string(highest)});
+    else if (taken.contain(lowest, highest))
       findings.push_back({place, Warning, "an earlier entry takes all of these builds"});
-    earlier.push_back(generation);
+    else
+      taken.add(lowest, highest);
   }
   return findings;
 }

@@ -1,6 +1,7 @@
 #include "tools/wrenvale/JSONPlaces.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 #include "platform/net/JSONReader.h"
 
@@ -8,29 +9,54 @@ namespace wrenvale::kit {
 
 namespace {
 
+void appendTo(std::string& pointer, std::string_view key) {
+  pointer += '/';
+  for (const char c : key) {
+    if (c == '~')
+      pointer += "~0";
+    else if (c == '/')
+      pointer += "~1";
+    else
+      pointer += c;
+  }
+}
+
+void appendTo(std::string& pointer, std::size_t index) {
+  pointer.append("/").append(std::to_string(index));
+}
+
 // Goes over the text once. What it may rely on: the text is a document, and not nested too deep.
 class Walk {
 public:
-  Walk(std::string_view text, std::map<std::string, std::size_t>& offsets,
-       std::vector<std::string>& repeated)
+  using Offsets = std::unordered_map<std::string, std::size_t>;
+
+  // Sets the offsets of the pointers that are there already.
+  Walk(std::string_view text, Offsets& offsets, std::vector<std::size_t>& repeated)
       : text_(text)
       , offsets_(offsets)
       , repeated_(repeated) {}
 
-  void value(const std::string& pointer) {
+  void document(std::size_t begin) {
+    position_ = begin;
+    next();
+    note(position_);
+    value();
+  }
+
+private:
+  // The value whose pointer is in `pointer_`.
+  void value() {
     const char first = next();
-    offsets_.try_emplace(pointer, position_);
     if (first == '{')
-      dictionary(pointer);
+      dictionary();
     else if (first == '[')
-      array(pointer);
+      array();
     else if (first == '"')
-      string();
+      quoted();
     else
       position_ = std::min(text_.find_first_of(",]} \t\r\n", position_), text_.size());
   }
 
-private:
   // The next character that is no white space.
   char next() {
     position_ = std::min(text_.find_first_not_of(" \t\r\n", position_), text_.size());
@@ -46,65 +72,79 @@ private:
     return ++position_, false;
   }
 
-  void array(const std::string& pointer) {
-    for (std::size_t index = 0; goesOn(']'); ++index)
-      value(childOf(pointer, index));
-  }
-
-  void dictionary(const std::string& pointer) {
-    while (goesOn('}')) {
-      const auto offset = position_;
-      const auto child = childOf(pointer, string());
-      if (!offsets_.insert_or_assign(child, offset).second) repeated_.push_back(child);
-      next(); // the colon
-      ++position_;
-      value(child);
+  void array() {
+    const auto size = pointer_.size();
+    for (std::size_t index = 0; goesOn(']'); ++index) {
+      appendTo(pointer_, index);
+      note(position_);
+      value();
+      pointer_.resize(size);
     }
   }
 
-  std::string string() {
+  void dictionary() {
+    const auto size = pointer_.size();
+    std::unordered_set<std::string> keys;
+    while (goesOn('}')) {
+      const auto offset = position_;
+      auto name = key();
+      appendTo(pointer_, name);
+      note(offset);
+      if (!keys.insert(std::move(name)).second) repeated_.push_back(offset);
+      next(); // the colon
+      ++position_;
+      value();
+      pointer_.resize(size);
+    }
+  }
+
+  void note(std::size_t offset) {
+    if (const auto found = offsets_.find(pointer_); found != offsets_.end()) found->second = offset;
+  }
+
+  std::string_view quoted() {
     const auto begin = position_++;
     while (text_[position_] != '"')
       position_ += text_[position_] == '\\' ? 2 : 1;
-    const auto quoted = text_.substr(begin, ++position_ - begin);
-    if (quoted.find('\\') == std::string_view::npos)
-      return std::string(quoted.substr(1, quoted.size() - 2));
-    const auto read = platform::JSONReader().JSONObjectWithData("[" + std::string(quoted) + "]");
+    return text_.substr(begin, ++position_ - begin);
+  }
+
+  std::string key() {
+    const auto text = quoted();
+    if (text.find('\\') == std::string_view::npos)
+      return std::string(text.substr(1, text.size() - 2));
+    const auto read = platform::JSONReader().JSONObjectWithData("[" + std::string(text) + "]");
     const auto key = read.object.value_or(Value()).at(0);
     return key.string() ? *key.string() : std::string();
   }
 
   const std::string_view text_;
   std::size_t position_ = 0;
-  std::map<std::string, std::size_t>& offsets_;
-  std::vector<std::string>& repeated_;
+  std::string pointer_;
+  Offsets& offsets_;
+  std::vector<std::size_t>& repeated_;
 };
 
 } // namespace
 
 std::string childOf(const std::string& pointer, std::string_view key) {
-  std::string result = pointer + '/';
-  for (const char c : key) {
-    if (c == '~')
-      result += "~0";
-    else if (c == '/')
-      result += "~1";
-    else
-      result += c;
-  }
+  std::string result = pointer;
+  appendTo(result, key);
   return result;
 }
 
 std::string childOf(const std::string& pointer, std::size_t index) {
-  return pointer + '/' + std::to_string(index);
+  std::string result = pointer;
+  appendTo(result, index);
+  return result;
 }
 
-JSONPlaces::JSONPlaces(std::string_view text) {
+JSONPlaces::JSONPlaces(std::string_view text, const std::vector<std::string>& pointers) {
+  for (const auto& pointer : pointers)
+    offsets_.emplace(pointer, 0);
   constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-  const auto skipped = text.starts_with(byteOrderMark) ? byteOrderMark.size() : 0;
-  Walk(text.substr(skipped), offsets_, repeated_).value("");
-  for (auto& [pointer, offset] : offsets_)
-    offset += skipped;
+  Walk(text, offsets_, repeated_)
+      .document(text.starts_with(byteOrderMark) ? byteOrderMark.size() : 0);
 }
 
 std::size_t JSONPlaces::offsetOf(const std::string& pointer) const {

@@ -4,9 +4,9 @@
 #define WRENVALE_TOOLS_JSONPLACES_H
 
 #include <cstddef>
-#include <map>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 namespace wrenvale::kit {
@@ -15,22 +15,23 @@ namespace wrenvale::kit {
 std::string childOf(const std::string& pointer, std::string_view key);
 std::string childOf(const std::string& pointer, std::size_t index);
 
-/// Finds values by their JSON Pointers; "" is the whole document.
+/// Finds some values by their JSON Pointers ("" is the whole document), and all repeated keys.
 class JSONPlaces {
 public:
-  /// Of a text that is a document to platform::JSONReader.
-  explicit JSONPlaces(std::string_view text);
+  /// Goes once over a text that is a document to platform::JSONReader.
+  JSONPlaces(std::string_view text, const std::vector<std::string>& pointers);
 
   /// The byte where the value begins, or the key in front of it when it has one. Of a key that
-  /// stands twice, the last. 0 for a value that is not there.
+  /// stands twice, the last. 0 for a value that is not there, or that the constructor was not
+  /// given.
   std::size_t offsetOf(const std::string& pointer) const;
 
-  /// Every key that stood in its dictionary already.
-  const std::vector<std::string>& repeated() const { return repeated_; }
+  /// The byte of every key that stood in its dictionary already, in ascending order.
+  const std::vector<std::size_t>& repeated() const { return repeated_; }
 
 private:
-  std::map<std::string, std::size_t> offsets_;
-  std::vector<std::string> repeated_;
+  std::unordered_map<std::string, std::size_t> offsets_;
+  std::vector<std::size_t> repeated_;
 };
 
 } // namespace wrenvale::kit

@@ -5,13 +5,25 @@
 
 #include "core/Value.h"
 #include "tools/wrenvale/Finding.h"
+#include "tools/wrenvale/SchemaNode.h"
 
 namespace wrenvale::kit {
 
-/// What is wrong with the document by a schema of draft 2020-12. As much of the draft is known as
-/// the schemas of this project need; anything else in a schema is a finding of its own, so nothing
-/// is passed over. A schema's "title" says what a value must be, in words that follow "must be".
-Findings findingsBySchema(const Value& document, const Value& schema);
+/// A schema of draft 2020-12. As much of the draft is known as the schemas of this project need;
+/// anything else in a schema is a finding of its own, so nothing is passed over. A schema's "title"
+/// says what a value must be, in words that follow "must be".
+class JSONSchema {
+public:
+  /// Reads the schema once, so that a check looks up and compiles nothing.
+  explicit JSONSchema(const Value& schema);
+
+  /// What is wrong with the document, found in a time that grows with its length alone.
+  Findings findingsIn(const Value& document) const;
+
+private:
+  Findings unknown_;
+  SchemaNode root_;
+};
 
 } // namespace wrenvale::kit
 

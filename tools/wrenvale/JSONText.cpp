@@ -50,13 +50,13 @@ std::string readable(std::string_view text) {
   return result;
 }
 
-TextPlace placeOf(std::string_view text, std::size_t offset) {
-  const auto before = text.substr(0, offset);
-  const auto lineStart = before.rfind('\n') + 1; // 0 when there is none
-  const auto line = before.substr(lineStart);
-  return {.line = 1 + static_cast<std::size_t>(std::ranges::count(before, '\n')),
-          .column = 1 + static_cast<std::size_t>(std::ranges::count_if(
-                            line, [](char c) { return !isContinuation(c); }))};
+TextPlace TextPlaces::placeOf(std::size_t offset) {
+  for (; position_ < std::min(offset, text_.size()); ++position_)
+    if (text_[position_] == '\n')
+      place_ = {.line = place_.line + 1, .column = 1};
+    else if (!isContinuation(text_[position_]))
+      ++place_.column;
+  return place_;
 }
 
 } // namespace wrenvale::kit

@@ -20,8 +20,21 @@ struct TextPlace {
   std::size_t column = 1; ///< in characters
 };
 
-/// Where the byte at `offset` of the UTF-8 text is, counted as an editor does.
-TextPlace placeOf(std::string_view text, std::size_t offset);
+/// Where bytes of a UTF-8 text are, counted as an editor does. Goes over the text once, so it is
+/// asked in ascending order.
+class TextPlaces {
+public:
+  explicit TextPlaces(std::string_view text)
+      : text_(text) {}
+
+  /// `offset` is that of the last call at least; beyond the text it is the text's end.
+  TextPlace placeOf(std::size_t offset);
+
+private:
+  std::string_view text_;
+  std::size_t position_ = 0;
+  TextPlace place_;
+};
 
 } // namespace wrenvale::kit
 

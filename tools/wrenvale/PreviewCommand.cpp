@@ -126,7 +126,7 @@ int printPreview(const Arguments& arguments) {
   if (!text) return complain("cannot read " + arguments.document, kFailed);
   const auto parsed = platform::JSONReader().JSONObjectWithData(*text);
   if (!parsed.object) {
-    const auto place = placeOf(*text, parsed.errorOffset);
+    const auto place = TextPlaces(*text).placeOf(parsed.errorOffset);
     return complain(arguments.document + ":" + std::to_string(place.line) + ":" +
                         std::to_string(place.column) + ": " + parsed.error,
                     kFailed);

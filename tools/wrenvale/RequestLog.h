@@ -12,15 +12,15 @@ struct AnsweredRequest {
   std::string time; ///< as the line shows it
   int status;
   std::string method;
-  std::string target; ///< path and query, as they were sent
-  std::string userAgent;
+  std::string target;    ///< path and query, as they were sent
+  std::string userAgent; ///< percent-decoded
 };
 
 /// The text as a terminal may show it: every byte that is no printable ASCII character, and the
 /// quotation mark and the backslash, as "\x" and two hexadecimal digits.
 std::string escaped(std::string_view text);
 
-/// "2026-05-04 21:14:03 200 GET /store/reset_US_en.json \"Photo%20Tool/1204 ...\"", without an end
+/// "2026-05-04 21:14:03 200 GET /store/reset_US_en.json \"Photo Tool/1204 ...\"", without an end
 /// of line. What the client sent is escaped; a missing part is "-".
 std::string logLine(const AnsweredRequest& request);
 

@@ -1,8 +1,8 @@
 #include "tools/wrenvale/SiteFiles.h"
 
 #include <algorithm>
+#include <cctype>
 #include <fstream>
-#include <iterator>
 
 namespace wrenvale::kit {
 
@@ -23,6 +23,16 @@ std::optional<fs::path> relativePath(std::string_view path) {
   return path.ends_with('/') ? relative / "index.html" : relative;
 }
 
+// Two letters or three digits stand for a country.
+bool isNewsletterPage(std::string_view path) {
+  constexpr std::string_view begin = "/store/newsletter/index_", end = ".html";
+  if (!path.starts_with(begin) || !path.ends_with(end)) return false;
+  const auto length = path.size() - std::min(path.size(), begin.size() + end.size());
+  const auto country = path.substr(begin.size(), length);
+  return (country.size() == 2 || country.size() == 3) &&
+         std::ranges::all_of(country, [](unsigned char c) { return std::isalnum(c) != 0; });
+}
+
 } // namespace
 
 std::optional<fs::path> siteFile(const fs::path& folder, std::string_view path) {
@@ -34,6 +44,12 @@ std::optional<fs::path> siteFile(const fs::path& folder, std::string_view path) 
   const auto file = fs::canonical(root / *relative, error);
   if (error || !isInside(root, file) || !fs::is_regular_file(file, error)) return std::nullopt;
   return file;
+}
+
+std::optional<fs::path> answeringFile(const fs::path& folder, std::string_view path) {
+  const auto file = siteFile(folder, path);
+  if (file || !isNewsletterPage(path)) return file;
+  return siteFile(folder, "/store/newsletter/index_EN.html");
 }
 
 std::string contentType(const fs::path& file) {
@@ -58,11 +74,16 @@ std::string contentType(const fs::path& file) {
   return "application/octet-stream";
 }
 
-std::optional<std::string> contentsOf(const fs::path& file) {
+std::optional<std::string> contentsOf(const fs::path& file, std::size_t longest) {
   std::ifstream stream(file, std::ios::binary);
   std::error_code error;
   if (!stream || fs::is_directory(file, error)) return std::nullopt;
-  return std::string(std::istreambuf_iterator<char>(stream), {});
+  std::string contents;
+  char piece[1U << 16U];
+  while (contents.size() < longest && (stream.read(piece, sizeof piece), stream.gcount() > 0))
+    contents.append(piece, static_cast<std::size_t>(stream.gcount()));
+  contents.resize(std::min(contents.size(), longest));
+  return contents;
 }
 
 } // namespace wrenvale::kit

@@ -3,6 +3,7 @@
 #ifndef WRENVALE_TOOLS_SITEFILES_H
 #define WRENVALE_TOOLS_SITEFILES_H
 
+#include <cstddef>
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -17,11 +18,17 @@ namespace wrenvale::kit {
 std::optional<std::filesystem::path> siteFile(const std::filesystem::path& folder,
                                               std::string_view path);
 
+/// The same for a request of a host: the newsletter page of a country that has none,
+/// "/store/newsletter/index_<country>.html", is the page of no country, "index_EN.html".
+std::optional<std::filesystem::path> answeringFile(const std::filesystem::path& folder,
+                                                   std::string_view path);
+
 /// The media type that the file's name stands for, text in UTF-8.
 std::string contentType(const std::filesystem::path& file);
 
-/// All of the file; nothing when it cannot be read.
-std::optional<std::string> contentsOf(const std::filesystem::path& file);
+/// All of the file, or its first `longest` bytes; nothing when it cannot be read.
+std::optional<std::string> contentsOf(const std::filesystem::path& file,
+                                      std::size_t longest = std::string::npos);
 
 } // namespace wrenvale::kit
 

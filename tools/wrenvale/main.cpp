@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <exception>
 #include <iterator>
 #include <string>
 
@@ -31,7 +32,12 @@ void printUsage(std::FILE* out) {
 int run(const Command& command, int argc, char** argv) {
   std::string name = "wrenvale " + std::string(command.name);
   argv[0] = name.data();
-  return command.run(argc, argv);
+  try {
+    return command.run(argc, argv);
+  } catch (const std::exception& exception) { // out of memory, a folder that cannot be listed
+    std::fprintf(stderr, "%s: %s\n", name.c_str(), exception.what());
+    return kFailed;
+  }
 }
 
 } // namespace

@@ -28,7 +28,7 @@ expect_requests() { # "STATUS PATH"...
 
 # That nothing but the reset document was asked for, once, as this build.
 expect_reset_request_only() { # build
-  local wanted="^[^\"]* 200 GET /store/reset_US_en\\.json \"Photo%20Tool/$1 123456789 Darwin/[^\"]*\"\$"
+  local wanted="^[^\"]* 200 GET /store/reset_US_en\\.json \"Photo Tool/$1 123456789 Darwin/[^\"]*\"\$"
   [[ $(wc -l <<<"$requests") -eq 1 && $requests =~ $wanted ]] ||
     fail "the launch should have asked for the reset document, once, as build $1"
 }
