@@ -6,7 +6,7 @@ readonly wrenvale_packages=(
   git cmake ninja-build ccache g++ pkg-config binutils file dpkg-dev openssl
   qt6-base-dev qt6-webengine-dev qt6-tools-dev qt6-l10n-tools libgl1-mesa-dev
   libcurl4-openssl-dev libssl-dev libsimdjson-dev libcpp-httplib-dev libre2-dev libsqlite3-dev nlohmann-json3-dev
-  libplist-dev libplist-utils libgtest-dev libgmock-dev python3-jsonschema xvfb xauth
+  libplist-dev libplist-utils libgtest-dev libgmock-dev python3-jsonschema xvfb xauth fonts-vlgothic
 )
 
 # wrenvale_install PACKAGE...
