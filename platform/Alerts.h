@@ -19,6 +19,7 @@ enum AlertReturn : int {
 
 /// Plain text throughout; nothing in it is read as markup.
 struct Alert {
+  std::string title; ///< of its window: the application's name
   std::string messageText;
   std::string informativeText;
   std::string defaultButton;

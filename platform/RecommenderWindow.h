@@ -72,8 +72,6 @@ public:
   /// Shows the alert as a sheet on the window. `handler` is called once with the answer, or never
   /// when the window goes first.
   virtual void beginSheet(const Alert& alert, std::function<void(int)> handler) = 0;
-  /// The same for an alert that is made from an error.
-  virtual void beginErrorSheet(const LoadError& error, std::function<void()> handler) = 0;
 
   /// Closes the window and ends its page; the delegate is told.
   virtual void close() = 0;

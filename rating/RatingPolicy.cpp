@@ -17,7 +17,8 @@ Value withNextCount(const Value& versionCounters, std::string_view version) {
 
 platform::Alert ratingAlert(const std::optional<std::string>& appName) {
   const std::string name = formatted(appName);
-  return {.messageText = "Please take a minute to rate " + name + "!",
+  return {.title = appName.value_or(""),
+          .messageText = "Please take a minute to rate " + name + "!",
           .informativeText = "Ratings and feedback will help us to improve " + name +
                              ". This message won't show up again, but you can rate " + name +
                              " easily any time from the Help menu.",

@@ -7,6 +7,7 @@
 #include "core/Endpoints.h"
 #include "core/Guard.h"
 #include "core/Identity.h"
+#include "core/LocalizedText.h"
 #include "core/UserAgent.h"
 #include "platform/Platform.h"
 #include "welcome/JSONWriter.h"
@@ -155,7 +156,11 @@ void KVXRecommenderWindowController::didFailProvisionalLoad(const platform::Load
 // A page that fails again and again gets no second sheet; the first one closes the window.
 void KVXRecommenderWindowController::showFailure(const platform::LoadError& error) {
   if (std::exchange(_failureShown, true)) return;
-  _window->beginErrorSheet(error, [weak = weak_from_this()] {
+  const platform::Alert alert{.title = _service.appName(),
+                              .messageText = error.description,
+                              .informativeText = error.advice,
+                              .defaultButton = localizedText(_platform.localization, "Ok")};
+  _window->beginSheet(alert, [weak = weak_from_this()](int) {
     if (const auto self = weak.lock()) guarded([&] { self->_window->close(); });
   });
 }

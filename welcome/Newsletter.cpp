@@ -16,8 +16,10 @@ void deliverSubscription(const std::string& address, const KVXWrenvale& service,
 }
 
 // "subcribe" is the text that hosts translate.
-platform::Alert invalidAddressAlert(const platform::Localization& localization) {
-  return {.messageText = localizedText(localization, "Invalid email address"),
+platform::Alert invalidAddressAlert(std::string_view appName,
+                                    const platform::Localization& localization) {
+  return {.title = std::string(appName),
+          .messageText = localizedText(localization, "Invalid email address"),
           .informativeText =
               localizedText(localization, "Please enter a valid email address to subcribe."),
           .defaultButton = localizedText(localization, "Ok")};

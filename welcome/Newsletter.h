@@ -4,6 +4,7 @@
 #define WRENVALE_WELCOME_NEWSLETTER_H
 
 #include <string>
+#include <string_view>
 
 #include "platform/Alerts.h"
 
@@ -26,7 +27,8 @@ void deliverSubscription(const std::string& address, const KVXWrenvale& service,
                          const Endpoints& endpoints, platform::URLLoading& urlLoading);
 
 /// Tells that an address was refused.
-platform::Alert invalidAddressAlert(const platform::Localization& localization);
+platform::Alert invalidAddressAlert(std::string_view appName,
+                                    const platform::Localization& localization);
 
 } // namespace welcome
 

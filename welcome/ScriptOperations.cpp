@@ -73,7 +73,7 @@ bool KVXRecommenderWindowController::javascript_subscribe(const Value& address) 
 // A script that keeps trying while the sheet is up does not pile up sheets.
 void KVXRecommenderWindowController::showInvalidAddress() {
   if (std::exchange(_invalidAddressShown, true)) return;
-  _window->beginSheet(welcome::invalidAddressAlert(_platform.localization),
+  _window->beginSheet(welcome::invalidAddressAlert(_service.appName(), _platform.localization),
                       [weak = weak_from_this()](int) {
                         if (const auto self = weak.lock()) self->_invalidAddressShown = false;
                       });

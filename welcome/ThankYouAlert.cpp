@@ -18,7 +18,8 @@ platform::Alert thankYouAlert(const Recommendation& recommendation, bool updatin
   const auto thanks = localizedText(localization, updating ? "Thank you for updating"
                                                            : "Thank you for downloading");
   auto button = recommendation.alertButtonName();
-  return {.messageText = thanks + " " + std::string(appName) + "!",
+  return {.title = std::string(appName),
+          .messageText = thanks + " " + std::string(appName) + "!",
           .informativeText = recommendation.alertText().value_or(""),
           .defaultButton = button ? std::move(*button) : localizedText(localization, "Ok"),
           .alternateButton = localizedText(localization, "Cancel")};

@@ -56,10 +56,6 @@ public:
     seen_->sheets.push_back(alert);
     seen_->handlers.push_back(std::move(handler));
   }
-  void beginErrorSheet(const LoadError& error, std::function<void()> handler) override {
-    seen_->errorSheets.push_back(error);
-    seen_->handlers.push_back([handler = std::move(handler)](int) { handler(); });
-  }
   void close() override { seen_->pressClose(); }
   void closeWebView() override { seen_->webViewClosed = true; }
 

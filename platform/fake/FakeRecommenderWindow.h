@@ -59,7 +59,6 @@ struct FakeRecommenderWindow {
   std::vector<std::pair<std::string, Arguments>> calls; ///< functions of the page, in order
 
   std::vector<Alert> sheets;                      ///< all so far
-  std::vector<LoadError> errorSheets;             ///< all so far
   std::vector<std::function<void(int)>> handlers; ///< of the sheets that are up
 };
 

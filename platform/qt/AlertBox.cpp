@@ -1,26 +1,40 @@
 #include "platform/qt/AlertBox.h"
 
-#include <algorithm>
-
 #include <QApplication>
+#include <QGridLayout>
 #include <QIcon>
 #include <QLabel>
 #include <QPushButton>
-#include <QScreen>
 #include <QStyle>
 
-#include "platform/qt/LongText.h"
+#include "platform/qt/WindowFrame.h"
 
 namespace wrenvale::platform {
 
 namespace {
 
 constexpr int kIconSize = 64;
+constexpr qsizetype kMostShown = 1'000;
+// No line is broken within a word, and one of this length still fits.
+constexpr qsizetype kLongestWord = 40;
 
-// Of the screen's height; the rest is for the buttons, and for texts that take more lines beside an
-// icon than they were measured with.
-constexpr double kMessageShare = 0.2;
-constexpr double kInformativeShare = 0.4;
+QString cut(const QString& text, qsizetype length) {
+  return text.size() > length ? text.left(qMax(length, 0)) + QChar(0x2026) : text;
+}
+
+QString breakable(const QString& text) {
+  QString result;
+  qsizetype word = 0;
+  for (const QChar character : text) {
+    word = character.isSpace() ? 0 : word + 1;
+    if (word > kLongestWord && !character.isLowSurrogate()) {
+      result += QChar(0x200B); // a space of no width
+      word = 1;
+    }
+    result += character;
+  }
+  return result;
+}
 
 // An ampersand in a label is part of the text, not a mark of a shortcut.
 QPushButton* labelled(QMessageBox& box, const std::string& label, QMessageBox::ButtonRole role) {
@@ -32,19 +46,38 @@ QPushButton* labelled(QMessageBox& box, const std::string& label, QMessageBox::B
 AlertBox::AlertBox(const Alert& alert)
     : closedAnswer_(closedAnswer(alert))
     , default_(labelled(*this, alert.defaultButton, AcceptRole)) {
-  setTextFormat(Qt::PlainText);
-  setText(QString::fromStdString(alert.messageText));
-  setInformativeText(QString::fromStdString(alert.informativeText));
-  auto* informative = findChild<QLabel*>("qt_msgbox_informativelabel");
-  // setTextFormat() is about the other text only.
-  if (informative) informative->setTextFormat(Qt::PlainText);
+  setWindowTitle(QString::fromStdString(alert.title));
+  setAttribute(Qt::WA_QuitOnClose, false);
   if (const QIcon icon = QApplication::windowIcon(); !icon.isNull())
     setIconPixmap(icon.pixmap(QSize(kIconSize, kIconSize), devicePixelRatioF()));
-  setAttribute(Qt::WA_QuitOnClose, false);
+  addTexts(alert);
   addButtons(alert);
-  if (auto* message = findChild<QLabel*>("qt_msgbox_label"))
-    scrollWhenLong(*message, kMessageShare);
-  if (informative) scrollWhenLong(*informative, kInformativeShare);
+  if (iconPixmap().isNull()) removeEmptyIndent();
+}
+
+void AlertBox::addTexts(const Alert& alert) {
+  const QString message = cut(QString::fromStdString(alert.messageText), kMostShown);
+  const QString informative = QString::fromStdString(alert.informativeText);
+  setTextFormat(Qt::PlainText);
+  setText(breakable(message));
+  setInformativeText(breakable(cut(informative, kMostShown - message.size())));
+  // setTextFormat() is about the other text only.
+  if (auto* label = findChild<QLabel*>("qt_msgbox_informativelabel"))
+    label->setTextFormat(Qt::PlainText);
+  if (auto* label = findChild<QLabel*>("qt_msgbox_label")) {
+    QFont bold = label->font();
+    bold.setBold(true);
+    label->setFont(bold);
+  }
+}
+
+// Qt's layout of a box without an icon begins with a space as wide as one of a small icon's.
+void AlertBox::removeEmptyIndent() {
+  auto* columns = static_cast<QGridLayout*>(layout());
+  for (int i = columns->count(); i-- > 0;)
+    if (columns->itemAt(i)->spacerItem()) delete columns->takeAt(i);
+  columns->setHorizontalSpacing(0);
+  columns->setColumnStretch(1, 1); // that of the texts
 }
 
 void AlertBox::addButtons(const Alert& alert) {
@@ -66,15 +99,10 @@ int AlertBox::answer() const {
 // A sheet is put above its window, which may stand at an edge of the screen.
 void AlertBox::showEvent(QShowEvent* event) {
   QMessageBox::showEvent(event);
-  const auto* here = QGuiApplication::screenAt(geometry().center());
-  const QRect available = (here ? here : screen())->availableGeometry();
   // Its title bar may be unknown until it is on the screen.
   const QSize titled = size() + QSize(0, style()->pixelMetric(QStyle::PM_TitleBarHeight));
-  const QSize room = available.size() - frameSize().expandedTo(titled);
-  const QPoint corner = pos() - available.topLeft();
-  const QPoint kept(std::clamp(corner.x(), 0, std::max(0, room.width())),
-                    std::clamp(corner.y(), 0, std::max(0, room.height())));
-  if (kept != corner) move(available.topLeft() + kept);
+  const QPoint kept = placeOnScreen({pos(), frameSize().expandedTo(titled)});
+  if (kept != pos()) move(kept);
 }
 
 int AlertBox::closedAnswer(const Alert& alert) {

@@ -9,9 +9,8 @@
 
 namespace wrenvale::platform {
 
-/// Has the alert's texts and buttons, and keeps to the screen however long the texts are: what is
-/// too long scrolls, and the buttons are always in reach. Main thread only; there is a
-/// QApplication.
+/// Has the alert's texts and buttons, and keeps to the screen however long the texts are: of both
+/// together the first 1,000 characters are shown. Main thread only; there is a QApplication.
 class AlertBox final : public QMessageBox {
 public:
   explicit AlertBox(const Alert& alert);
@@ -25,7 +24,9 @@ protected:
   void showEvent(QShowEvent* event) override;
 
 private:
+  void addTexts(const Alert& alert);
   void addButtons(const Alert& alert);
+  void removeEmptyIndent();
 
   const int closedAnswer_;
   QPushButton* const default_;

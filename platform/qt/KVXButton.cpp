@@ -38,7 +38,7 @@ const Look& lookOf(const QPushButton& button) {
 State stateOf(const QPushButton& button) {
   if (!button.isEnabled()) return kDisabled;
   if (button.isDown()) return kPressed;
-  return button.underMouse() ? kHover : kNormal;
+  return button.underMouse() && button.isActiveWindow() ? kHover : kNormal;
 }
 
 } // namespace
@@ -78,6 +78,11 @@ void KVXButton::paintEvent(QPaintEvent*) {
   }
   painter.setPen(QColor(look.text[state]));
   painter.drawText(surface, Qt::AlignCenter | Qt::TextShowMnemonic, text());
+}
+
+void KVXButton::changeEvent(QEvent* event) {
+  QPushButton::changeEvent(event);
+  if (event->type() == QEvent::ActivationChange) update();
 }
 
 void KVXButton::keyPressEvent(QKeyEvent* event) {

@@ -10,6 +10,7 @@ namespace wrenvale::platform {
 /// Shows the pointing hand over the whole of it, and looks the same in every style, palette and
 /// style sheet of a host. Layouts say what it is with Qt's own properties: `default` is the one in
 /// the accent colour, `flat` one without a surface of its own.
+/// It shows that the pointer is over it in the active window only.
 ///
 /// Return presses it as Space does. What is meant for the button before it does not press it: a key
 /// held down, or the second click of a double click.
@@ -21,6 +22,7 @@ public:
   QSize minimumSizeHint() const override { return sizeHint(); }
 
 protected:
+  void changeEvent(QEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mouseDoubleClickEvent(QMouseEvent* event) override;

@@ -265,14 +265,6 @@ void QtRecommenderWindow::beginSheet(const Alert& alert, std::function<void(int)
   session_->beginSheet(alert, std::move(handler));
 }
 
-void QtRecommenderWindow::beginErrorSheet(const LoadError& error, std::function<void()> handler) {
-  session_->beginSheet(
-      {.messageText = error.description,
-       .informativeText = error.advice,
-       .defaultButton = translated(QT_TRANSLATE_NOOP("Wrenvale", "Ok")).toStdString()},
-      [handler = std::move(handler)](int) { handler(); });
-}
-
 void QtRecommenderWindow::close() {
   session_->close();
 }

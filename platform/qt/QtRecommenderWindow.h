@@ -43,7 +43,6 @@ public:
 
   /// A sheet of a hidden window comes up with the window.
   void beginSheet(const Alert& alert, std::function<void(int)> handler) override;
-  void beginErrorSheet(const LoadError& error, std::function<void()> handler) override;
 
   void close() override;
   void closeWebView() override;

@@ -1,8 +1,11 @@
 #include "platform/qt/RateWindowWidget.h"
 
+#include <cmath>
 #include <utility>
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <QFontInfo>
 #include <QLabel>
 #include <QPainter>
 #include <QScreen>
@@ -11,12 +14,15 @@
 #include <ui_RateWindow.h>
 
 #include "platform/qt/PushTransition.h"
+#include "platform/qt/WindowFrame.h"
 
 namespace wrenvale::platform {
 
 namespace {
 
 constexpr int kSmallestWidth = 440;
+constexpr double kUsualFontSize = 11; // points
+constexpr double kLargestScale = 2;
 constexpr QRgb kBorder = 0xffc3c9d3;
 // A window manager that insists on another place wins in the end.
 constexpr int kMostReturns = 20;
@@ -39,6 +45,7 @@ RateWindowWidget::RateWindowWidget(Events events)
     , ui_(std::make_unique<Ui::RateWindow>())
     , push_((ui_->setupUi(this), new PushTransition(*ui_->bottomContainerView))) {
   view_ = ui_->bottomContainerView->currentWidget();
+  ownRules_ = styleSheet();
   setObjectName("Rate Window");
   setAttribute(Qt::WA_QuitOnClose, false);
   ui_->closeButton->hide();
@@ -48,6 +55,7 @@ RateWindowWidget::RateWindowWidget(Events events)
   connectButton(*ui_->appstoreButton, RateButton::kAppstore);
   connectButton(*ui_->contactButton, RateButton::kContact);
   fillInTexts();
+  setFontSizes();
   setFocus();
 }
 
@@ -86,11 +94,25 @@ bool RateWindowWidget::isInPresentView(const QWidget& widget) const {
 }
 
 bool RateWindowWidget::eventFilter(QObject* watched, QEvent* event) {
-  const bool enters = event->type() == QEvent::Enter;
-  if ((enters || event->type() == QEvent::Leave) && isVisible() &&
-      isInPresentView(*static_cast<QWidget*>(watched)))
-    events_.hovered(static_cast<RateButton>(watched->property("rateButton").toInt()), enters);
+  auto* button = static_cast<QWidget*>(watched);
+  if (event->type() == QEvent::Enter && isInPresentView(*button))
+    underPointer_ = button;
+  else if (event->type() == QEvent::Leave && underPointer_ == button)
+    underPointer_ = nullptr;
+  reportHovering();
   return false;
+}
+
+// A view that goes from under the pointer is not left.
+void RateWindowWidget::reportHovering() {
+  if (!isVisible()) return;
+  const QWidget* now = isActiveWindow() ? underPointer_ : nullptr;
+  const QWidget* before = std::exchange(hovered_, now);
+  if (now == before) return;
+  for (const QWidget* button : {before, now})
+    if (button && isInPresentView(*button))
+      events_.hovered(static_cast<RateButton>(button->property("rateButton").toInt()),
+                      button == now);
 }
 
 // The layout's texts have the application's name as "%1".
@@ -103,6 +125,17 @@ void RateWindowWidget::fillInTexts() {
     button->setText(withName(button->text(), QString(appName_).replace('&', "&&")));
     button->setAccessibleDescription(withName(button->accessibleDescription(), appName_));
   }
+  fit();
+}
+
+// For the usual size of a desktop's font; a larger one enlarges all of them as much.
+void RateWindowWidget::setFontSizes() {
+  const double font = QFontInfo(QApplication::font()).pointSizeF();
+  const double scale = qBound(1.0, font / kUsualFontSize, kLargestScale);
+  auto sized = [scale](double points) { return QString::number(points * scale, 'f', 1) + "pt; }"; };
+  setStyleSheet(ownRules_ + "* { font-size: " + sized(11) +
+                "QLabel[role=\"headline\"] { font-size: " + sized(17) +
+                "#closeButton { font-size: " + sized(18));
   fit();
 }
 
@@ -136,8 +169,9 @@ void RateWindowWidget::follow(QWidget& parent) {
 QPoint RateWindowWidget::placeOf() const {
   const QRect around = parent_ ? parent_->frameGeometry() : screen()->availableGeometry();
   const QSize outer = frameGeometry().size();
-  return around.topLeft() +
-         QPoint((around.width() - outer.width()) / 2, (around.height() - outer.height()) / 2);
+  const QPoint centred = around.topLeft() + QPoint((around.width() - outer.width()) / 2,
+                                                   (around.height() - outer.height()) / 2);
+  return placeOnScreen({centred, outer});
 }
 
 void RateWindowWidget::place() {
@@ -154,9 +188,25 @@ void RateWindowWidget::returnToPlace() {
   if (parent_ && pos() != placeOf() && returnsLeft_-- > 0) move(placeOf());
 }
 
-void RateWindowWidget::changeEvent(QEvent* event) {
-  QWidget::changeEvent(event);
-  if (event->type() == QEvent::LanguageChange) fillInTexts();
+bool RateWindowWidget::event(QEvent* event) {
+  const bool handled = QWidget::event(event);
+  switch (event->type()) {
+  case QEvent::LanguageChange:
+    fillInTexts();
+    break;
+  case QEvent::ApplicationFontChange:
+    setFontSizes();
+    break;
+  case QEvent::StyleChange:
+    if (isVisible()) fit();
+    break;
+  case QEvent::ActivationChange:
+    reportHovering();
+    break;
+  default:
+    break;
+  }
+  return handled;
 }
 
 void RateWindowWidget::closeEvent(QCloseEvent* event) {
@@ -176,10 +226,11 @@ void RateWindowWidget::keyPressEvent(QKeyEvent* event) {
 
 void RateWindowWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  painter.fillRect(rect(), Qt::white);
-  if (!parent_) return;
-  painter.setPen(QColor(kBorder));
-  painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  painter.fillRect(rect(), parent_ ? QColor(kBorder) : Qt::white);
+  // In whole pixels of the screen's, the same on all sides.
+  const qreal scale = painter.deviceTransform().m11();
+  const qreal border = std::floor(scale) / scale;
+  painter.fillRect(QRectF(rect()).adjusted(border, border, -border, -border), Qt::white);
 }
 
 } // namespace wrenvale::platform

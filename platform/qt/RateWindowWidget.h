@@ -22,8 +22,8 @@ class FaceView;
 class PushTransition;
 
 /// White with dark text whatever the host's palette and style sheet, as large as its texts need,
-/// and of no influence on when the host quits. It begins without a focused button, so that a key
-/// meant for another window answers nothing.
+/// which grow with the host's font, and of no influence on when the host quits. It begins without a
+/// focused button, so that a key meant for another window answers nothing.
 ///
 /// Main thread only. Destroy it with deleteWindowLater(): the events it reports come from within
 /// its own.
@@ -37,8 +37,8 @@ public:
     std::function<void()> destroyed; ///< the widget is no longer to be used
   };
 
-  /// Reports presses and hovering of buttons in the present view only, and no presses while it is
-  /// being pushed in.
+  /// Reports presses and hovering of buttons in the present view only; hovering only while the
+  /// window is active, and no presses while the view is being pushed in.
   explicit RateWindowWidget(Events events);
   ~RateWindowWidget() override;
 
@@ -51,12 +51,13 @@ public:
   /// followNothing().
   void follow(QWidget& parent);
   void followNothing() { parent_ = nullptr; }
-  /// Puts the window where it belongs: the middle of its parent, or of its screen.
+  /// Puts the window where it belongs: the middle of its parent, as far as the screen lets it, or
+  /// of its screen.
   void place();
 
 protected:
   bool eventFilter(QObject* watched, QEvent* event) override;
-  void changeEvent(QEvent* event) override;
+  bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void hideEvent(QHideEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -66,7 +67,9 @@ protected:
 private:
   void connectButton(QPushButton& button, RateButton name);
   bool isInPresentView(const QWidget& widget) const;
+  void reportHovering();
   void fillInTexts();
+  void setFontSizes();
   void remeasure();
   void fit();
   QPoint placeOf() const;
@@ -76,6 +79,9 @@ private:
   const std::unique_ptr<Ui::RateWindow> ui_;
   PushTransition* const push_;
   QWidget* view_ = nullptr; ///< the present one; the container shows it only in a while
+  const QWidget* underPointer_ = nullptr; ///< one of the buttons
+  const QWidget* hovered_ = nullptr;      ///< the one last reported
+  QString ownRules_;                      ///< of the layout's style sheet, without the font sizes
   QString appName_;
   QWidget* parent_ = nullptr;
   int returnsLeft_ = 0;

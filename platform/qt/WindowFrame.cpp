@@ -1,5 +1,8 @@
 #include "platform/qt/WindowFrame.h"
 
+#include <algorithm>
+
+#include <QGuiApplication>
 #include <QScreen>
 
 #include "platform/qt/Toolkit.h"
@@ -35,6 +38,15 @@ Frame frameOnScreen(const Frame& wanted, QSize smallest, const QRect& screen) {
   const auto across = fitted(wanted.x, wanted.width, smallest.width(), screen.x(), screen.width());
   const auto down = fitted(wanted.y, wanted.height, smallest.height(), screen.y(), screen.height());
   return {.x = across.begin, .y = down.begin, .width = across.length, .height = down.length};
+}
+
+QPoint placeOnScreen(const QRect& frame) {
+  const auto* screen = QGuiApplication::screenAt(frame.center());
+  if (!screen) screen = QGuiApplication::primaryScreen();
+  const QRect available = screen->availableGeometry();
+  const QSize room = (available.size() - frame.size()).expandedTo({0, 0});
+  return {std::clamp(frame.x(), available.x(), available.x() + room.width()),
+          std::clamp(frame.y(), available.y(), available.y() + room.height())};
 }
 
 WindowFrame::WindowFrame(QWidget& window)

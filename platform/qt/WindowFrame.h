@@ -14,6 +14,10 @@ namespace wrenvale::platform {
 /// numbers at all: with the same centre, not smaller than `smallest`, and within `screen`.
 Frame frameOnScreen(const Frame& wanted, QSize smallest, const QRect& screen);
 
+/// Where a window of this frame goes to be wholly on the screen that its middle is on; a window of
+/// the host's may have it at an edge. What is larger than the screen begins where the screen does.
+QPoint placeOnScreen(const QRect& frame);
+
 /// The frame of a top-level widget, which outlives this. Main thread only.
 class WindowFrame {
 public:

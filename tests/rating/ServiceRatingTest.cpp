@@ -298,6 +298,7 @@ TEST_F(ServiceRating, TheAlertSpeaksEnglishWithTheUntranslatedName) {
   fake.localization.info["CFBundleName"] = "Fotowerkzeug";
   service->triggerRatingWithModalAlert();
   const auto& alert = fake.alerts.shown.back();
+  EXPECT_EQ(alert.title, "Photo Tool");
   EXPECT_EQ(alert.messageText, "Please take a minute to rate Photo Tool!");
   EXPECT_EQ(alert.informativeText,
             "Ratings and feedback will help us to improve Photo Tool. This message won't show up "

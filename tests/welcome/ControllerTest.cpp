@@ -195,17 +195,18 @@ TEST_F(WelcomeTest, AFailedPageClosesTheWindow) {
   EXPECT_EQ(delegate->finished, 0);
   hidden.fail();
   EXPECT_EQ(delegate->finished, 1);
-  EXPECT_TRUE(hidden.errorSheets.empty() && hidden.webViewClosed);
+  EXPECT_TRUE(hidden.sheets.empty() && hidden.webViewClosed);
   EXPECT_EQ(hidden.delegate, nullptr);
 
   auto& shown = open();
   shown.call("showWindow");
   shown.fail(false);
-  EXPECT_TRUE(shown.errorSheets.empty());
+  EXPECT_TRUE(shown.sheets.empty());
   shown.fail();
   shown.fail();
-  ASSERT_EQ(shown.errorSheets.size(), 1U);
-  EXPECT_EQ(shown.errorSheets.front().description, "The page did not load.");
+  ASSERT_EQ(shown.sheets.size(), 1U);
+  EXPECT_EQ(shown.sheets.front().title, "Photo Tool");
+  EXPECT_EQ(shown.sheets.front().messageText, "The page did not load.");
   EXPECT_EQ(delegate->finished, 1);
   EXPECT_TRUE(shown.answerSheet());
   EXPECT_EQ(delegate->finished, 2);

@@ -165,6 +165,7 @@ TEST_F(WelcomeTest, RefusesWhatIsNoAddress) {
   }
   ASSERT_EQ(page.sheets.size(), 6U);
   const auto& sheet = page.sheets.front();
+  EXPECT_EQ(sheet.title, "Photo Tool");
   EXPECT_EQ(sheet.messageText, "Invalid email address");
   EXPECT_EQ(sheet.informativeText, "100 %@ d'accord");
   EXPECT_EQ(sheet.defaultButton, "Ok");

@@ -145,7 +145,7 @@ TEST_F(ServiceWelcome, TheEndSettlesTheDebtAndMakesRoom) {
   service->subscribeToNewsletter();
   ASSERT_EQ(windows(), 3U);
   window().fail();
-  EXPECT_EQ(window().errorSheets.size(), 1U);
+  EXPECT_EQ(window().sheets.size(), 1U);
   EXPECT_TRUE(window().answerSheet());
   EXPECT_FALSE(window().visible);
   fake.queues.runAll();

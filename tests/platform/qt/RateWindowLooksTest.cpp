@@ -117,6 +117,54 @@ TEST_F(QtRateWindowLooksTest, IsReadableWhateverTheHostLooksLike) {
   qApp->setStyleSheet({});
 }
 
+TEST_F(QtRateWindowLooksTest, AStyleSheetOfTheHostsChangesNothing) {
+  QWidget parent;
+  openOver(parent);
+  const QImage without = picture();
+  for (const char* sheet :
+       {"QPushButton { min-width: 80px; text-decoration: underline; }",
+        "* { padding: 9px; font: bold 20pt; min-height: 50px; max-width: 90px; }",
+        "QLabel { background: red; } QWidget { border: 3px solid red; margin: 8px; }"}) {
+    qApp->setStyleSheet(sheet);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(picture(), without) << sheet;
+    qApp->setStyleSheet({});
+  }
+}
+
+TEST_F(QtRateWindowLooksTest, TextsGrowWithTheHostsFont) {
+  open();
+  const QFont usual = QApplication::font();
+  const QSize size = widget()->size();
+  QFont larger = usual;
+  for (const auto& [points, grows] : {std::pair{8.0, false}, {22.0, true}, {500.0, true}}) {
+    larger.setPointSizeF(points);
+    QApplication::setFont(larger);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(widget()->height() > size.height() + 100, grows) << points;
+    EXPECT_LT(widget()->height(), 2 * size.height()) << points;
+  }
+  QApplication::setFont(usual);
+}
+
+TEST_F(QtRateWindowLooksTest, ItsBorderIsEvenAtEveryScale) {
+  QWidget parent;
+  openOver(parent);
+  for (const double scale : {1.0, 1.5, 2.0}) {
+    QImage image((QSizeF(widget()->size()) * scale).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale);
+    widget()->render(&image);
+    const QSize last = image.size() - QSize(1, 1);
+    for (int inside = 0; inside < 4; ++inside) {
+      const QRgb left = image.pixel(inside, last.height() / 2);
+      EXPECT_EQ(left, image.pixel(last.width() - inside, last.height() / 2)) << scale;
+      EXPECT_EQ(left, image.pixel(last.width() / 3, inside)) << scale;
+      EXPECT_EQ(left, image.pixel(last.width() / 3, last.height() - inside)) << scale;
+    }
+    EXPECT_NE(image.pixel(0, 9), image.pixel(4, 9)) << scale;
+  }
+}
+
 TEST_F(QtRateWindowLooksTest, EveryStateOfAButtonIsReadableAndDifferent) {
   const std::pair<const char*, std::function<void(QPushButton&)>> states[] = {
       {"hover", [](QPushButton& button) { button.setAttribute(Qt::WA_UnderMouse); }},

@@ -1,6 +1,7 @@
 #include "RateWindowFixture.h"
 
 #include <QLabel>
+#include <QScreen>
 
 namespace wrenvale::platform {
 namespace {
@@ -75,6 +76,22 @@ TEST_F(QtRateWindowTest, HoveringTellsTheModeOfTheTrackingArea) {
   EXPECT_THAT(delegate_.calls, ElementsAre("entered 1", "exited 1", "entered 2", "button 0"));
 }
 
+TEST_F(QtRateWindowTest, OnlyTheActiveWindowIsHovered) {
+  open();
+  hover("likeButton", true);
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
+  EXPECT_THAT(delegate_.calls, ElementsAre("entered 2", "exited 2"));
+  hover("likeButton", false);
+  hover("dislikeButton", true);
+  EXPECT_EQ(delegate_.calls.size(), 2U);
+  widget()->activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(widget()));
+  EXPECT_THAT(delegate_.calls, ElementsAre("entered 2", "exited 2", "entered 1"));
+}
+
 // On a display the old view is hidden, and so left by the pointer, before the new one is there.
 TEST_F(QtRateWindowTest, AViewThatGoesFromUnderThePointerIsNotLeft) {
   if (QGuiApplication::platformName() == "offscreen") GTEST_SKIP() << "has no pointer";
@@ -107,6 +124,13 @@ TEST_F(QtRateWindowTest, WorksByKeyboard) {
   QTest::keyClick(widget()->focusWidget(), Qt::Key_Space);
   QTest::keyClick(widget()->focusWidget(), Qt::Key_Escape);
   EXPECT_THAT(delegate_.calls, ElementsAre("button 0", "button 2", "should close"));
+}
+
+TEST_F(QtRateWindowTest, AParentsFirstTabComesToTheFirstButton) {
+  QWidget parent;
+  openOver(parent);
+  QTest::keyClick(widget()->focusWidget(), Qt::Key_Tab);
+  EXPECT_EQ(widget()->focusWidget(), &outlet("dislikeButton"));
 }
 
 TEST_F(QtRateWindowTest, TheSecondClickOfADoubleClickPressesNothing) {
@@ -148,6 +172,11 @@ TEST_F(QtRateWindowTest, StaysInTheMiddleOfItsParent) {
   EXPECT_TRUE(centred());
   parent.setGeometry(300, 200, 500, 700);
   EXPECT_TRUE(centred());
+  const QRect screen = parent.screen()->availableGeometry();
+  for (const QPoint edge : {screen.topLeft(), screen.bottomRight()}) {
+    parent.setGeometry(QRect(edge - QPoint(50, 50), QSize(100, 100)));
+    EXPECT_TRUE(QTest::qWaitFor([&] { return screen.contains(widget()->geometry()); }));
+  }
 }
 
 TEST(DimmingOverlayTest, CoversItsParentAndGoesWithIt) {

@@ -143,7 +143,10 @@ TEST_F(ClosingTest, TakesItsSheetsAlong) {
     load("/hang");
     window_->makeKeyAndOrderFront();
     bool answered = false;
-    window_->beginSheet({.messageText = "Well?", .informativeText = {}, .defaultButton = "Ok"},
+    window_->beginSheet({.title = "Photo Tool",
+                         .messageText = "Well?",
+                         .informativeText = {},
+                         .defaultButton = "Ok"},
                         [&](int) { answered = true; });
     ASSERT_NE(QApplication::activeModalWidget(), nullptr);
     go(window_);

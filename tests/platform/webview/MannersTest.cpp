@@ -91,7 +91,10 @@ TEST_F(MannersTest, AShownPageHasTheKeyboard) {
        "var typed = () => Recommender.log(field.value)</script>");
   window_->makeKeyAndOrderFront();
   EXPECT_TRUE(becomes("focused", "true"));
-  window_->beginSheet({.messageText = "Thank you", .informativeText = {}, .defaultButton = "Ok"},
+  window_->beginSheet({.title = "Photo Tool",
+                       .messageText = "Thank you",
+                       .informativeText = {},
+                       .defaultButton = "Ok"},
                       [](int) {});
   EXPECT_TRUE(becomes("focused", "false"));
   ASSERT_TRUE(QApplication::activeModalWidget());
