@@ -15,7 +15,7 @@ endfunction()
 # such a variant in the library's place.
 function(wrenvale_library target font_source public_key_source)
   add_library(${target} SHARED
-    "${PROJECT_SOURCE_DIR}/core/SharedInstance.cpp"
+    "${PROJECT_SOURCE_DIR}/desktop/SharedInstance.cpp"
     "${PROJECT_BINARY_DIR}/BuildConfiguration.cpp"
     "${font_source}"
     "${public_key_source}")

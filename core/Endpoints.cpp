@@ -2,9 +2,9 @@
 
 #include <initializer_list>
 
+#include "base/Value.h"
 #include "core/BuildConfiguration.h"
 #include "core/Origin.h"
-#include "core/Value.h"
 
 namespace wrenvale {
 

@@ -6,11 +6,9 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
-#include <utility>
 #include <vector>
 
-#include "core/Value.h"
+#include "base/JSONWriter.h"
 
 namespace wrenvale {
 
@@ -19,7 +17,7 @@ class Recommendation {
 public:
   using Text = std::optional<std::string>;
   /// Key and value in the order in which they were filled; the values are strings and integers.
-  using Dictionary = std::vector<std::pair<std::string_view, Value>>;
+  using Dictionary = JSONObject;
 
   Recommendation() = default;
   Recommendation(const Recommendation&) = delete;

@@ -2,7 +2,7 @@
 
 #include <wrenvale/HTMLAdditions.h>
 
-#include "core/Value.h"
+#include "base/Value.h"
 #include "platform/Kernel.h"
 
 namespace wrenvale {

@@ -1,13 +1,10 @@
 #include <wrenvale/UserDefaults.h>
 
-#include "core/Guard.h"
-#include "core/Value.h"
+#include "base/Guard.h"
+#include "base/Value.h"
 #include "platform/UserDefaults.h"
 
 namespace wrenvale {
-
-UserDefaults::UserDefaults(platform::UserDefaults& store)
-    : store_(store) {}
 
 Value UserDefaults::objectForKey(std::string_view key) const {
   return guarded([&] { return store_.objectForKey(key); });

@@ -5,8 +5,8 @@
 #include <cstdlib>
 #include <string>
 
-#include "platform/net/JSONReader.h"
-#include "platform/net/JSONScanner.h"
+#include "desktop/net/json/JSONReader.h"
+#include "desktop/net/json/JSONScanner.h"
 
 namespace {
 

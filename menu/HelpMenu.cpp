@@ -2,17 +2,17 @@
 
 #include <algorithm>
 
-#include <wrenvale/KVXWrenvale.h>
 #include <wrenvale/KVXWrenvaleController.h>
 
 #include "core/LocalizedText.h"
+#include "core/Service.h"
 
 namespace wrenvale {
 
 namespace {
 
 using C = KVXWrenvaleController;
-using S = KVXWrenvale;
+using S = Service;
 
 constexpr HelpMenuAction kOpenSupportWebPage = {
     "openSupportWebPageAction:", &C::openSupportWebPageAction, &S::openSupportWebPage};

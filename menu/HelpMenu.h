@@ -13,7 +13,7 @@
 
 namespace wrenvale {
 
-class KVXWrenvale;
+class Service;
 class KVXWrenvaleController;
 
 /// What choosing an item does: the controller's action, and the operation of the service that it
@@ -21,7 +21,7 @@ class KVXWrenvaleController;
 struct HelpMenuAction {
   const char* name;
   void (KVXWrenvaleController::*action)(::QObject* sender);
-  void (KVXWrenvale::*operation)();
+  void (Service::*operation)();
 };
 
 struct HelpMenuItem {

@@ -1,79 +1,99 @@
 #include <wrenvale/KVXWrenvaleController.h>
 
+#include <functional>
+#include <optional>
+#include <string>
 #include <utility>
 
-#include <wrenvale/KVXWrenvale.h>
-
-#include "core/Guard.h"
+#include "base/Guard.h"
 #include "core/Identity.h"
+#include "core/Service.h"
 #include "menu/AppName.h"
 #include "menu/HelpMenu.h"
 #include "platform/Platform.h"
 
 namespace wrenvale {
 
-KVXWrenvaleController::KVXWrenvaleController(KVXWrenvale& service,
-                                             const platform::Platform& platform,
-                                             std::string_view vendorSiteName)
-    : _service(service)
-    , _platform(platform)
-    , _vendorSiteName(vendorSiteName)
-    , _self(std::make_shared<KVXWrenvaleController*>(this)) {}
+// What the controller has of the host's.
+struct KVXWrenvaleController::Menus {
+  std::unique_ptr<platform::Menu> mainMenu;
+  std::unique_ptr<platform::Menu> helpMenu;
+};
 
-KVXWrenvaleController::~KVXWrenvaleController() = default;
+namespace {
 
-void KVXWrenvaleController::setMainMenu(QMenuBar* mainMenu) {
-  guarded([&] { _mainMenu = _platform.menus.menuBar(mainMenu); });
+template <class T>
+T& made(std::shared_ptr<T>& object) {
+  if (!object) object = std::make_shared<T>();
+  return *object;
 }
 
-void KVXWrenvaleController::setHelpMenu(QMenu* helpMenu) {
-  guarded([&] { _helpMenu = _platform.menus.menu(helpMenu); });
-}
-
-// The names come last, so that the new items' translations may have the placeholder too.
-void KVXWrenvaleController::awakeFromNib() {
-  guarded([&] {
-    if (_helpMenu) addHelpMenuItems();
-    if (!_mainMenu) return;
-    for (const auto& item : _mainMenu->items())
-      _replaceAppNameInMenuItem(item->submenu());
-  });
-}
-
-void KVXWrenvaleController::addHelpMenuItems() {
-  const HelpMenuNames names{.appName = appName(), .vendorSiteName = _vendorSiteName};
-  for (auto& item :
-       helpMenuItems(hasHelpItem(*_helpMenu), names, _platform.menus, _platform.localization)) {
-    if (!item.action) {
-      _helpMenu->addSeparator();
-      continue;
-    }
-    const std::weak_ptr<KVXWrenvaleController*> controller = _self;
-    const auto choose = [controller, &service = _service, &todo = *item.action](QObject* sender) {
-      const auto alive = controller.lock();
-      guarded([&] { alive ? ((*alive)->*todo.action)(sender) : (service.*todo.operation)(); });
-    };
-    _helpMenu->addItem({.title = std::move(item.title),
-                        .keyEquivalent = std::move(item.keyEquivalent),
-                        .action = item.action->name,
-                        .choose = choose});
-  }
+std::optional<std::string> appName(const platform::Platform& platform) {
+  return localizedName(platform.mainBundle, platform.localization);
 }
 
 // Takes a menu, whatever its name says.
-void KVXWrenvaleController::_replaceAppNameInMenuItem(
-    const std::unique_ptr<platform::Menu>& menu) const {
-  if (!menu) return;
-  const auto name = _platform.menus.titleForText(appName().value_or(""));
-  for (const auto& item : menu->items()) {
+void _replaceAppNameInMenuItem(const platform::Platform& platform, const platform::Menu& menu) {
+  const auto name = platform.menus.titleForText(appName(platform).value_or(""));
+  for (const auto& item : menu.items()) {
     const auto title = item->title();
     if (title.find(kAppNamePlaceholder) != std::string::npos)
       item->setTitle(withAppName(title, name));
   }
 }
 
-std::optional<std::string> KVXWrenvaleController::appName() const {
-  return localizedName(_platform.mainBundle, _platform.localization);
+// `choose` is what an item does.
+void addHelpMenuItems(const Service& service, platform::Menu& helpMenu,
+                      const std::function<void(const HelpMenuAction&, QObject*)>& choose) {
+  const auto& platform = service.platform();
+  const HelpMenuNames names{.appName = appName(platform),
+                            .vendorSiteName = service.vendorSiteName()};
+  for (auto& item :
+       helpMenuItems(hasHelpItem(helpMenu), names, platform.menus, platform.localization)) {
+    if (!item.action) {
+      helpMenu.addSeparator();
+      continue;
+    }
+    helpMenu.addItem({.title = std::move(item.title),
+                      .keyEquivalent = std::move(item.keyEquivalent),
+                      .action = item.action->name,
+                      .choose = [choose, &action = *item.action](QObject* sender) {
+                        guarded([&] { choose(action, sender); });
+                      }});
+  }
+}
+
+} // namespace
+
+KVXWrenvaleController::~KVXWrenvaleController() = default;
+
+void KVXWrenvaleController::setMainMenu(QMenuBar* mainMenu) {
+  guarded([&] { made(_menus).mainMenu = _service.platform().menus.menuBar(mainMenu); });
+}
+
+void KVXWrenvaleController::setHelpMenu(QMenu* helpMenu) {
+  guarded([&] { made(_menus).helpMenu = _service.platform().menus.menu(helpMenu); });
+}
+
+// The names come last, so that the new items' translations may have the placeholder too. An item
+// outlives the controller, whose menus tell whether it is still there.
+void KVXWrenvaleController::awakeFromNib() {
+  guarded([&] {
+    auto& menus = made(_menus);
+    const std::weak_ptr<Menus> alive = _menus;
+    const auto choose = [this, alive, &service = _service](const HelpMenuAction& action,
+                                                           QObject* sender) {
+      if (const auto held = alive.lock())
+        (this->*action.action)(sender);
+      else
+        (service.*action.operation)();
+    };
+    if (menus.helpMenu) addHelpMenuItems(_service, *menus.helpMenu, choose);
+    if (!menus.mainMenu) return;
+    for (const auto& item : menus.mainMenu->items())
+      if (const auto submenu = item->submenu())
+        _replaceAppNameInMenuItem(_service.platform(), *submenu);
+  });
 }
 
 void KVXWrenvaleController::rateOnMacAppStoreAction(QObject*) {

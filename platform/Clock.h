@@ -3,7 +3,7 @@
 #ifndef WRENVALE_PLATFORM_CLOCK_H
 #define WRENVALE_PLATFORM_CLOCK_H
 
-#include "core/Value.h"
+#include "base/Value.h"
 
 namespace wrenvale::platform {
 

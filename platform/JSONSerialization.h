@@ -7,7 +7,7 @@
 #include <optional>
 #include <string>
 
-#include "core/Value.h"
+#include "base/Value.h"
 
 namespace wrenvale::platform {
 

@@ -12,7 +12,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/Value.h"
+#include "base/Value.h"
 #include "platform/Alerts.h"
 #include "platform/WebView.h"
 

@@ -8,7 +8,7 @@
 #include <functional>
 #include <string_view>
 
-#include "core/Value.h"
+#include "base/Value.h"
 
 namespace wrenvale::platform {
 

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/Value.h"
+#include "base/Value.h"
 #include "platform/HostWindow.h"
 
 namespace wrenvale::platform {

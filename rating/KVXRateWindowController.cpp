@@ -1,10 +1,10 @@
 #include "rating/KVXRateWindowController.h"
 
-#include <utility>
-
 #include <wrenvale/KVXWrenvale.h>
 
-#include "core/Guard.h"
+#include <utility>
+
+#include "base/Guard.h"
 #include "core/Identity.h"
 #include "platform/Platform.h"
 #include "rating/RatingRecords.h"

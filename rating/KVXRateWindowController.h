@@ -17,7 +17,7 @@
 #include <string>
 #include <vector>
 
-#include "core/Value.h"
+#include "base/Value.h"
 #include "platform/RateWindow.h"
 
 namespace wrenvale {

@@ -14,7 +14,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/Value.h"
+#include "base/Value.h"
 #include "platform/Alerts.h"
 
 namespace wrenvale::rating {

@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "core/Value.h"
+#include "base/Value.h"
 
 namespace wrenvale {
 

@@ -1,6 +1,6 @@
 #include "recommend/KVXAppRecommendation.h"
 
-#include "core/Guard.h"
+#include "base/Guard.h"
 #include "platform/Files.h"
 
 namespace wrenvale {

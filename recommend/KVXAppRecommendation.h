@@ -19,8 +19,8 @@
 #include <utility>
 #include <vector>
 
+#include "base/Value.h"
 #include "core/Recommendation.h"
-#include "core/Value.h"
 #include "recommend/PackedTexts.h"
 
 namespace wrenvale {

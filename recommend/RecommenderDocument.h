@@ -7,7 +7,7 @@
 // document when asked, one entry at a time, and copy no more than that entry's own text. Unknown
 // keys are ignored. What is not of the type that it should be reads as absent: a list that is no
 // array is empty, an entry that is no object has no keys. Integers and truth values are read as
-// core/Value.h says, text as Text says. Any thread.
+// base/Value.h says, text as Text says. Any thread.
 
 #ifndef WRENVALE_RECOMMEND_RECOMMENDERDOCUMENT_H
 #define WRENVALE_RECOMMEND_RECOMMENDERDOCUMENT_H
@@ -19,7 +19,7 @@
 #include <string_view>
 #include <type_traits>
 
-#include "core/Value.h"
+#include "base/Value.h"
 
 namespace wrenvale::recommend {
 

@@ -2,15 +2,14 @@
 
 #include <utility>
 
-#include <wrenvale/KVXWrenvale.h>
-
+#include "base/Guard.h"
+#include "base/JSONWriter.h"
 #include "core/Endpoints.h"
-#include "core/Guard.h"
 #include "core/Identity.h"
 #include "core/LocalizedText.h"
+#include "core/Service.h"
 #include "core/UserAgent.h"
 #include "platform/Platform.h"
-#include "welcome/JSONWriter.h"
 #include "welcome/NavigationPolicy.h"
 #include "welcome/ScriptBridge.h"
 #include "welcome/ThankYouAlert.h"
@@ -34,7 +33,7 @@ void followAlert(const Recommendation& recommendation, int answer,
 
 } // namespace
 
-KVXRecommenderWindowController::KVXRecommenderWindowController(KVXWrenvale& service,
+KVXRecommenderWindowController::KVXRecommenderWindowController(Service& service,
                                                                const platform::Platform& platform,
                                                                const Endpoints& endpoints)
     : _service(service)
@@ -94,7 +93,7 @@ void KVXRecommenderWindowController::sendRecommendationsNow() {
   std::vector<Recommendation::Dictionary> dictionaries;
   for (const auto& recommendation : *_recommendations)
     dictionaries.push_back(recommendation->dictionaryRepresentation());
-  const Value text = welcome::prettyPrintedJSON(dictionaries);
+  const Value text = prettyPrintedJSON(dictionaries);
   _recomendationsSent = true;
   _window->callWebScriptMethod("setRecommendations", {text});
 }

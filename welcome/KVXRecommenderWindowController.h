@@ -29,7 +29,7 @@ struct Platform;
 
 class Endpoints;
 class KVXRecommenderWindowController;
-class KVXWrenvale;
+class Service;
 
 class KVXRecommenderWindowControllerDelegate {
 public:
@@ -45,7 +45,7 @@ class KVXRecommenderWindowController final
       public std::enable_shared_from_this<KVXRecommenderWindowController> {
 public:
   /// All three outlive the controller and the work that it starts in the background.
-  KVXRecommenderWindowController(KVXWrenvale& service, const platform::Platform& platform,
+  KVXRecommenderWindowController(Service& service, const platform::Platform& platform,
                                  const Endpoints& endpoints);
 
   /// Makes the window, hidden, and begins to load the page. Once. False when there are no windows
@@ -108,7 +108,7 @@ private:
   void showInvalidAddress();
   void showFailure(const platform::LoadError& error);
 
-  KVXWrenvale& _service;
+  Service& _service;
   const platform::Platform& _platform;
   const Endpoints& _endpoints;
 

@@ -1,15 +1,15 @@
 #include "welcome/Newsletter.h"
 
 #include <wrenvale/HTMLAdditions.h>
-#include <wrenvale/KVXWrenvale.h>
 
 #include "core/Endpoints.h"
 #include "core/LocalizedText.h"
+#include "core/Service.h"
 #include "platform/URLLoading.h"
 
 namespace wrenvale::welcome {
 
-void deliverSubscription(const std::string& address, const KVXWrenvale& service,
+void deliverSubscription(const std::string& address, const Service& service,
                          const Endpoints& endpoints, platform::URLLoading& urlLoading) {
   const auto data = urlEncoded(service.encryptString("email=" + address));
   urlLoading.sendSynchronousRequest({.url = endpoints.subscription(data)});

@@ -11,7 +11,7 @@
 namespace wrenvale {
 
 class Endpoints;
-class KVXWrenvale;
+class Service;
 
 namespace platform {
 class Localization;
@@ -23,7 +23,7 @@ namespace welcome {
 /// Sends the address, encrypted for the maker, and drops the answer. An address that cannot be
 /// encrypted (too long for the key, as a rule) is sent as "(null)". Blocks until the exchange is
 /// over; background threads only, several at once.
-void deliverSubscription(const std::string& address, const KVXWrenvale& service,
+void deliverSubscription(const std::string& address, const Service& service,
                          const Endpoints& endpoints, platform::URLLoading& urlLoading);
 
 /// Tells that an address was refused.

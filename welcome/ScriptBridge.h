@@ -31,7 +31,7 @@
 #include <string_view>
 #include <vector>
 
-#include "core/Value.h"
+#include "base/Value.h"
 #include "platform/RecommenderWindow.h"
 
 namespace wrenvale {
@@ -56,7 +56,7 @@ std::vector<platform::ScriptMethod> scriptMethods();
 bool hasScriptOperation(std::string_view selector);
 
 /// Performs the operation with this page's name. Missing arguments count as null, further ones are
-/// dropped, and values of another type than hoped for are read as core/Value.h says. Nothing when
+/// dropped, and values of another type than hoped for are read as base/Value.h says. Nothing when
 /// there is no such operation.
 std::optional<Value> performScriptOperation(KVXRecommenderWindowController& controller,
                                             std::string_view name,

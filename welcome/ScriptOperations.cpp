@@ -3,10 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include <wrenvale/KVXWrenvale.h>
-
-#include "core/Guard.h"
+#include "base/Guard.h"
 #include "core/Identity.h"
+#include "core/Service.h"
 #include "platform/Platform.h"
 #include "welcome/EmailAddress.h"
 #include "welcome/KVXRecommenderWindowController.h"

@@ -5,8 +5,8 @@
 
 #include <QCommandLineParser>
 
-#include "Script.h"
-#include "Steps.h"
+#include "robot/Script.h"
+#include "robot/Steps.h"
 
 namespace {
 

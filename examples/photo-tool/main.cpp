@@ -11,8 +11,8 @@
 #include "MainWindow.h"
 #include "Options.h"
 #include "SamplePicture.h"
-#include "Script.h"
 #include "Translations.h"
+#include "robot/Script.h"
 
 namespace {
 

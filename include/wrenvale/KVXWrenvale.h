@@ -11,19 +11,14 @@
 #ifndef WRENVALE_KVXWRENVALE_H
 #define WRENVALE_KVXWRENVALE_H
 
-#include <atomic>
 #include <cstdint>
 #include <functional>
-#include <memory>
-#include <mutex>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include <wrenvale/Export.h>
 #include <wrenvale/HostWindow.h>
-#include <wrenvale/Value.h>
 
 extern "C" {
 
@@ -42,20 +37,7 @@ WRENVALE_EXPORT extern const std::int64_t kRateLike;    ///< 2
 
 namespace wrenvale {
 
-namespace platform {
-struct Platform;
-struct URLRequest;
-class PublicKey;
-class Queue;
-} // namespace platform
-
-struct BuildConfiguration;
-struct ResetOutcome;
-class Endpoints;
-class KVXRateWindowController;
-class KVXRecommenderWindowController;
-class KVXRecommenderWindowControllerDelegate;
-class Recommendation;
+class Service;
 
 class WRENVALE_EXPORT KVXWrenvale {
 public:
@@ -165,104 +147,16 @@ public:
 
   // Two switches for the host's own use; the framework reads neither. Any thread.
 
-  bool connecting() const { return _connecting; }
-  void setConnecting(bool connecting) { _connecting = connecting; }
-  bool showAtLaunch() const { return _showAtLaunch; }
-  void setShowAtLaunch(bool showAtLaunch) { _showAtLaunch = showAtLaunch; }
-
-  // The framework's own; not offered to hosts.
-
-  /// A service of its own over `platform`, which outlives it.
-  WRENVALE_HIDDEN KVXWrenvale(const platform::Platform& platform, BuildConfiguration configuration);
-  WRENVALE_HIDDEN ~KVXWrenvale();
-
-  /// Creates the shared instance and has it called when the host has finished launching.
-  WRENVALE_HIDDEN static void load();
-
-  /// What happens once the host has finished launching. Main thread, once.
-  WRENVALE_HIDDEN void launchHandler();
-
-  /// Asks the maker's server, in the background, whether the welcome window is owed again.
-  WRENVALE_HIDDEN void reset();
-
-  /// Files one rating record for the present build: the session's action codes in order, and
-  /// whether a trigger opened it. Main thread.
-  WRENVALE_HIDDEN void _storeRateHistory(const std::vector<std::int64_t>& history, Date withDate,
-                                         bool triggered);
-
-  /// Shows the rate window without asking whether it should; brings it to the front, and does
-  /// nothing with the arguments, when it is open. False when there is no window to show. Main
-  /// thread.
-  WRENVALE_HIDDEN bool _rateAppWithWindow(HostWindow* window,
-                                          CompletitionHandler completitionHandler);
-
-  using Recommendations = std::vector<std::shared_ptr<const Recommendation>>;
-
-  /// Downloads the recommender document and makes the list of it, best first and one per group.
-  /// Nothing when the download fails, the answer is no document, or this build of the host is not
-  /// to show any. Blocks its background thread for as long as the download takes.
-  WRENVALE_HIDDEN std::optional<Recommendations> _getRecommendations() const;
-
-  /// Does that in the background, one after the other, and hands the result to the window that is
-  /// open by then, unless that one has a list already. Any thread.
-  WRENVALE_HIDDEN void _setRecommendations();
-
-  /// Whether the application is installed; asks the system anew each time. Any thread.
-  WRENVALE_HIDDEN bool _isAppInstalledWithBundleID(std::string_view bundleID) const;
-
-  /// The window of the controller is closing: a welcome window is no longer owed. Main thread.
-  WRENVALE_HIDDEN void
-  kvxRecommenderWindowControllerDidFinish(KVXRecommenderWindowController& controller);
-
-  /// Puts userAgent(), when there is one, into the request's "User-Agent" field.
-  WRENVALE_HIDDEN void _setUserAgent(platform::URLRequest& request) const;
-
-  /// A new key object for the embedded public key; null when the encryption module is missing.
-  /// Ends the process when the key does not import.
-  WRENVALE_HIDDEN std::unique_ptr<platform::PublicKey> _importPublicKey() const;
+  bool connecting() const;
+  void setConnecting(bool connecting);
+  bool showAtLaunch() const;
+  void setShowAtLaunch(bool showAtLaunch);
 
 private:
-  WRENVALE_HIDDEN std::string versionString() const;
-  WRENVALE_HIDDEN void fileEarlierStoreRating();
-  WRENVALE_HIDDEN void checkReset();
-  WRENVALE_HIDDEN void applyReset(const ResetOutcome& outcome);
-  WRENVALE_HIDDEN void oweUpdateWindow();
-  WRENVALE_HIDDEN bool mayAskForRating();
-  WRENVALE_HIDDEN void bringRateWindowForward();
-  WRENVALE_HIDDEN bool loadRateWindow(HostWindow* window, CompletitionHandler completitionHandler);
-  WRENVALE_HIDDEN void fileSession(const KVXRateWindowController& controller);
-  WRENVALE_HIDDEN bool askByAlert();
-  WRENVALE_HIDDEN bool showUpdateWindow() const;
-  WRENVALE_HIDDEN void openWelcomeWindow();
-  WRENVALE_HIDDEN std::shared_ptr<KVXRecommenderWindowController>
-  loadRecommenderWindow(bool displayAlerts, bool updating);
-  WRENVALE_HIDDEN void publish(std::optional<Recommendations> recommendations);
-  WRENVALE_HIDDEN bool askPurchaseRecord() const;
+  explicit KVXWrenvale(Service& service)
+      : _service(service) {}
 
-  const platform::Platform& _platform;
-  const std::unique_ptr<const BuildConfiguration> _configuration;
-  const std::unique_ptr<const Endpoints> _endpoints;
-
-  const bool _firstRun;
-  const std::unique_ptr<platform::Queue> _loadQueue;
-  const std::string _localeSuffix;
-  const std::optional<std::string> _machineModel;
-  const std::optional<std::string> _macAppstoreID;
-
-  bool _launchHandled = false;
-  bool _welcomeTriggered = false;
-  std::shared_ptr<KVXRateWindowController> _rateWindowController; // null when no window is open
-  bool _askingByAlert = false;
-  std::shared_ptr<KVXRecommenderWindowControllerDelegate> _recommenderDelegate; // once needed
-  std::shared_ptr<KVXRecommenderWindowController> _recommenderWindowController; // as above
-  std::atomic<bool> _connecting = false;
-  std::atomic<bool> _showAtLaunch = false;
-
-  mutable std::mutex _purchaseRecordMutex;
-  std::function<bool()> _purchaseRecord;
-
-  mutable std::once_flag _appNameOnce;
-  mutable std::string _appName;
+  Service& _service;
 };
 
 } // namespace wrenvale

@@ -19,9 +19,6 @@
 
 #include <memory>
 #include <mutex>
-#include <optional>
-#include <string>
-#include <string_view>
 
 #include <wrenvale/Export.h>
 
@@ -32,12 +29,7 @@ class QObject;
 
 namespace wrenvale {
 
-namespace platform {
-class Menu;
-struct Platform;
-} // namespace platform
-
-class KVXWrenvale;
+class Service;
 
 class WRENVALE_EXPORT KVXWrenvaleController {
 public:
@@ -85,23 +77,16 @@ public:
   QImage kvxLogo() const;
   void setKvxLogo(const QImage& kvxLogo);
 
-  // The framework's own; not offered to hosts.
-
-  /// A controller over a service and a platform, which outlive it and all items that it adds.
-  WRENVALE_HIDDEN KVXWrenvaleController(KVXWrenvale& service, const platform::Platform& platform,
-                                        std::string_view vendorSiteName);
+protected:
+  /// The framework's own: over another service than the shared one.
+  explicit KVXWrenvaleController(Service& service)
+      : _service(service) {}
 
 private:
-  WRENVALE_HIDDEN void addHelpMenuItems();
-  WRENVALE_HIDDEN void _replaceAppNameInMenuItem(const std::unique_ptr<platform::Menu>& menu) const;
-  WRENVALE_HIDDEN std::optional<std::string> appName() const;
+  struct Menus;
 
-  KVXWrenvale& _service;
-  const platform::Platform& _platform;
-  const std::string _vendorSiteName;
-  std::unique_ptr<platform::Menu> _mainMenu;
-  std::unique_ptr<platform::Menu> _helpMenu;
-  const std::shared_ptr<KVXWrenvaleController*> _self; // the items know by it whether this is alive
+  Service& _service;
+  std::shared_ptr<Menus> _menus; ///< once there is one
 
   mutable std::mutex _imagesMutex;
   std::shared_ptr<const QImage> _twitterIcon;

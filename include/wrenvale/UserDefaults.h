@@ -64,10 +64,10 @@ public:
   /// A call under way on another thread may still end after this returns.
   void removeObserver(ObserverID id);
 
-  /// The framework's own; not offered to hosts.
-  WRENVALE_HIDDEN explicit UserDefaults(platform::UserDefaults& store);
-
 private:
+  explicit UserDefaults(platform::UserDefaults& store)
+      : store_(store) {}
+
   platform::UserDefaults& store_;
 };
 

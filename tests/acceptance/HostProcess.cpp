@@ -5,7 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "platform/linux/PropertyList.h"
+#include "desktop/linux/plist/PropertyList.h"
 
 extern char** environ;
 

@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "core/Value.h"
-#include "tests/platform/linux/TemporaryFolder.h"
+#include "base/Value.h"
+#include "tests/desktop/linux/TemporaryFolder.h"
 
 namespace wrenvale::tests {
 

@@ -7,10 +7,8 @@
 
 #include <gtest/gtest.h>
 
-#include <wrenvale/KVXWrenvale.h>
-
-#include "core/BuildConfiguration.h"
 #include "core/PersistedKeys.h"
+#include "core/Service.h"
 #include "platform/fake/FakePlatform.h"
 
 namespace wrenvale {
@@ -25,19 +23,26 @@ protected:
   }
 
   /// Starts a process of the host: a new service over the same world.
-  KVXWrenvale& start() {
-    service = std::make_unique<KVXWrenvale>(
-        fake.platform, BuildConfiguration{.vendorBase = "http://vendor.example",
-                                          .storeHost = "store.example",
-                                          .publicKey = "the key",
-                                          .vendorSiteName = "vendor.example"});
+  Service& start() {
+    service = std::make_unique<Service>(fake.platform,
+                                        BuildConfiguration{.vendorBase = "http://vendor.example",
+                                                           .storeHost = "store.example",
+                                                           .publicKey = "the key",
+                                                           .vendorSiteName = "vendor.example"});
     return *service;
+  }
+
+  static BuildConfiguration configuration() {
+    return {.vendorBase = "http://vendor.example",
+            .storeHost = "store.example",
+            .publicKey = "the key",
+            .vendorSiteName = "vendor.example"};
   }
 
   Value stored(std::string_view key) const { return fake.userDefaults.objectForKey(key); }
 
   platform::FakePlatform fake;
-  std::unique_ptr<KVXWrenvale> service;
+  std::unique_ptr<Service> service;
 };
 
 } // namespace wrenvale

@@ -37,7 +37,7 @@ protected:
   std::string list() {
     const auto list = service->_getRecommendations();
     std::string result = list ? "" : "nothing";
-    for (const auto& each : list.value_or(KVXWrenvale::Recommendations()))
+    for (const auto& each : list.value_or(RecommendationList()))
       result += each->link().value_or("?") + " ";
     return result;
   }

@@ -6,6 +6,7 @@
 
 #include "menu/AppName.h"
 #include "tests/core/ServiceFixture.h"
+#include "tests/menu/OverAService.h"
 
 namespace wrenvale {
 namespace {
@@ -21,8 +22,7 @@ protected:
   ControllerTest() { start(); }
 
   std::unique_ptr<KVXWrenvaleController> makeController() {
-    auto controller =
-        std::make_unique<KVXWrenvaleController>(*service, fake.platform, "vendor.example");
+    auto controller = std::make_unique<OverAService>(*service);
     controller->setMainMenu(fake.menus.hostMenuBar(mainMenu));
     controller->setHelpMenu(fake.menus.hostMenu(helpMenu));
     return controller;
@@ -167,9 +167,9 @@ TEST_F(ControllerTest, MenusMayBeMissingOrGone) {
   EXPECT_EQ(helpMenu->items.size(), 22U) << "as often as it is called";
 }
 
-class CountingController : public KVXWrenvaleController {
+class CountingController : public OverAService {
 public:
-  using KVXWrenvaleController::KVXWrenvaleController;
+  using OverAService::OverAService;
 
   void moreAppsAction(QObject*) override {
     ++calls;
@@ -180,7 +180,7 @@ public:
 };
 
 TEST_F(ControllerTest, ItemsCallWhatASubclassOverrides) {
-  CountingController controller(*service, fake.platform, "vendor.example");
+  CountingController controller(*service);
   controller.setHelpMenu(fake.menus.hostMenu(helpMenu));
   controller.awakeFromNib();
   EXPECT_TRUE(helpMenu->choose("moreAppsAction:"));

@@ -25,7 +25,7 @@ protected:
   void forget() { fake.userDefaults.values.clear(); }
 
   /// Notes at each call what the session has left behind by then.
-  KVXWrenvale::CompletitionHandler handler() {
+  Service::CompletitionHandler handler() {
     return [this] {
       ++handlerCalls;
       recordsAtCall = records().size();

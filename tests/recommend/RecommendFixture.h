@@ -10,8 +10,8 @@
 
 #include "core/BuildConfiguration.h"
 #include "core/Endpoints.h"
+#include "desktop/net/json/JSONReader.h"
 #include "platform/fake/FakeSystem.h"
-#include "platform/net/JSONReader.h"
 #include "recommend/Context.h"
 
 namespace wrenvale::recommend {

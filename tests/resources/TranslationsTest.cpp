@@ -6,6 +6,7 @@
 #include <gmock/gmock.h>
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QRegularExpression>
 #include <QXmlStreamReader>
@@ -25,10 +26,11 @@ QByteArray contents(const QString& file) {
 }
 
 QStringList filesIn(const char* folder, const QStringList& patterns) {
-  const QDir directory(kProject.filePath(folder));
   QStringList files;
-  for (const auto& name : directory.entryList(patterns, QDir::Files))
-    files += directory.filePath(name);
+  for (QDirIterator found(kProject.filePath(folder), patterns, QDir::Files,
+                          QDirIterator::Subdirectories);
+       found.hasNext();)
+    files += found.next();
   return files;
 }
 
@@ -62,7 +64,7 @@ void addElementsOf(const QString& file, QStringView name, Texts& texts) {
 Texts lookedUp() {
   Texts texts = {"CFBundleName"};
   for (const char* folder :
-       {"core", "menu", "rating", "recommend", "welcome", "platform/qt", "platform/webview"})
+       {"core", "menu", "rating", "recommend", "welcome", "desktop/qt", "desktop/webview"})
     for (const auto& file : filesIn(folder, {"*.cpp"}))
       addLookedUpIn(file, texts);
   for (const auto& file : filesIn("resources", {"*.ui"}))

@@ -5,11 +5,11 @@
 
 #include <ctime>
 
-#include "tests/platform/linux/TemporaryFolder.h"
+#include "tests/desktop/linux/TemporaryFolder.h"
 #include "tests/tools/KitRun.h"
-#include "tools/wrenvale/Check.h"
-#include "tools/wrenvale/JSONPlaces.h"
-#include "tools/wrenvale/SiteFiles.h"
+#include "tools/wrenvale/check/Check.h"
+#include "tools/wrenvale/check/JSONPlaces.h"
+#include "tools/wrenvale/check/SiteFiles.h"
 
 namespace wrenvale::kit {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "tools/wrenvale/ListenAddress.h"
-#include "tools/wrenvale/RedirectPage.h"
-#include "tools/wrenvale/RequestLog.h"
+#include "tools/wrenvale/serve/ListenAddress.h"
+#include "tools/wrenvale/serve/RedirectPage.h"
+#include "tools/wrenvale/serve/RequestLog.h"
 
 namespace wrenvale::kit {
 namespace {

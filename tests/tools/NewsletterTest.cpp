@@ -11,13 +11,13 @@
 
 #include "core/Base64.h"
 #include "core/Endpoints.h"
-#include "platform/net/OpenSSLEncryption.h"
+#include "desktop/net/crypto/OpenSSLEncryption.h"
 #include "tests/core/ServiceFixture.h"
-#include "tests/platform/linux/TemporaryFolder.h"
+#include "tests/desktop/linux/TemporaryFolder.h"
 #include "tests/tools/KitRun.h"
 #include "tests/tools/ServeProcess.h"
-#include "tools/wrenvale/KeyPair.h"
-#include "tools/wrenvale/SiteFiles.h"
+#include "tools/wrenvale/check/SiteFiles.h"
+#include "tools/wrenvale/newsletter/KeyPair.h"
 #include "welcome/Newsletter.h"
 
 namespace wrenvale::tests {
@@ -66,7 +66,7 @@ void subscribe(int port, const std::string& address, const std::string& pem = de
                                          .publicKey = pem,
                                          .vendorSiteName = {}};
   Client client;
-  const KVXWrenvale service(platform, configuration);
+  const Service service(platform, configuration);
   welcome::deliverSubscription(address, service, Endpoints(configuration), client);
 }
 

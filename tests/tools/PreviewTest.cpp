@@ -1,11 +1,11 @@
 #include <gmock/gmock.h>
 
-#include "platform/net/JSONReader.h"
-#include "tests/platform/linux/TemporaryFolder.h"
+#include "desktop/net/json/JSONReader.h"
+#include "tests/desktop/linux/TemporaryFolder.h"
 #include "tests/tools/KitRun.h"
-#include "tools/wrenvale/JSONText.h"
-#include "tools/wrenvale/Preview.h"
-#include "tools/wrenvale/SiteFiles.h"
+#include "tools/wrenvale/check/JSONText.h"
+#include "tools/wrenvale/check/SiteFiles.h"
+#include "tools/wrenvale/preview/Preview.h"
 
 namespace wrenvale::kit {
 namespace {

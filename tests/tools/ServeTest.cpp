@@ -7,7 +7,7 @@
 
 #include <httplib.h>
 
-#include "tests/platform/linux/TemporaryFolder.h"
+#include "tests/desktop/linux/TemporaryFolder.h"
 #include "tests/tools/ServeProcess.h"
 
 namespace wrenvale::tests {

@@ -7,7 +7,7 @@ namespace {
 
 class ServiceWelcome : public ServiceTest {
 protected:
-  KVXWrenvale& startLater() {
+  Service& startLater() {
     fake.userDefaults.setObject(120, keys::kRecommenderLastVersion);
     return start();
   }
@@ -164,7 +164,7 @@ TEST_F(ServiceWelcome, WithoutWindowsThereIsTheAnswerOnly) {
   fake.recommenderWindows.hasScreen = false;
   for (const auto* platform : {&fake.platform, &bare}) {
     fake.userDefaults.setObject(true, keys::kShowUpdateWindow);
-    KVXWrenvale alone(*platform, {});
+    Service alone(*platform, {});
     EXPECT_TRUE(alone.triggerWelcomeWindow());
     alone.subscribeToNewsletter();
     fake.queues.runAll();

@@ -1,0 +1,60 @@
+// The service's remote reset: reading and writing around the decision.
+
+#include "core/Service.h"
+
+#include "base/Guard.h"
+#include "core/PersistedKeys.h"
+#include "core/Reset.h"
+#include "platform/Platform.h"
+
+namespace wrenvale {
+
+void Service::reset() {
+  guarded([&] { _platform.queues.globalQueue().async([this] { checkReset(); }); });
+}
+
+// Blocks its background thread for as long as the download takes. What the defaults say is read
+// once, before anything is written, and decides all that follows.
+void Service::checkReset() {
+  auto& defaults = _platform.userDefaults;
+  const ResetState state{.bundleID = bundleID(),
+                         .bundleVersion = bundleVersion(),
+                         .firstRun = _firstRun,
+                         .showUpdateWindow =
+                             truthValue(defaults.objectForKey(keys::kShowUpdateWindow)),
+                         .lastVersion = defaults.objectForKey(keys::kRecommenderLastVersion),
+                         .resetNumber = defaults.objectForKey(keys::kRecommenderResetNumber)};
+
+  // Before the download and whatever becomes of it: an update whose check fails is an update no
+  // longer at the next launch.
+  if (state.versionChanged())
+    defaults.setObject(state.bundleVersion, keys::kRecommenderLastVersion);
+
+  platform::URLRequest request{.url = _endpoints.resetDocument(_localeSuffix)};
+  _setUserAgent(request);
+  auto body = _platform.urlLoading.sendSynchronousRequest(request);
+  if (!body) return;
+  const auto document = _platform.json.JSONObjectWithData(std::move(*body)).object;
+  if (!document) return;
+  applyReset(resetOutcome(*document, state));
+}
+
+void Service::applyReset(const ResetOutcome& outcome) {
+  auto& mainQueue = _platform.queues.mainQueue();
+  const auto owe = [this] { oweUpdateWindow(); };
+  if (outcome.resetNumber) {
+    mainQueue.async([this, &mainQueue, outcome, owe] {
+      _platform.userDefaults.setObject(*outcome.resetNumber, keys::kRecommenderResetNumber);
+      if (outcome.showUpdateWindow) mainQueue.async(owe);
+    });
+  } else if (outcome.showUpdateWindow) {
+    mainQueue.async(owe);
+  }
+}
+
+void Service::oweUpdateWindow() {
+  _platform.userDefaults.setObject(true, keys::kShowUpdateWindow);
+  if (_welcomeTriggered) triggerWelcomeWindow();
+}
+
+} // namespace wrenvale

@@ -1,0 +1,84 @@
+// The service's identity, its user agent and its launch.
+
+#include "core/Service.h"
+
+#include <utility>
+
+#include "base/Guard.h"
+#include "core/Identity.h"
+#include "core/PersistedKeys.h"
+#include "core/UserAgent.h"
+#include "platform/Platform.h"
+
+namespace wrenvale {
+
+Service::Service(const platform::Platform& platform, BuildConfiguration configuration)
+    : _platform(platform)
+    , _configuration(std::move(configuration))
+    , _endpoints(_configuration)
+    // A host without an identifier keeps nothing, so each of its runs would be the first.
+    , _firstRun(bundleID() &&
+                platform.userDefaults.objectForKey(keys::kRecommenderLastVersion).isNull())
+    , _loadQueue(platform.queues.makeSerialQueue())
+    , _localeSuffix(localeSuffix(platform.locale))
+    , _machineModel(platform.kernel.sysctlbyname("hw.model"))
+    , _macAppstoreID(
+          appstoreIDFromInfo(platform.mainBundle.objectForInfoDictionaryKey(info::kAppstoreID))) {}
+
+Service::~Service() = default;
+
+std::optional<std::string> Service::bundleID() const {
+  return guarded([&] {
+    return stringValue(_platform.mainBundle.objectForInfoDictionaryKey(info::kIdentifier));
+  });
+}
+
+std::int64_t Service::bundleVersion() const {
+  return guarded([&] {
+    return integerValue(_platform.mainBundle.objectForInfoDictionaryKey(info::kVersion));
+  });
+}
+
+// The key that every per-build record is filed under: 0042 and 42.1 are both build "42".
+std::string Service::versionString() const {
+  return std::to_string(bundleVersion());
+}
+
+const std::string& Service::appName() const {
+  guarded([&] {
+    std::call_once(_appNameOnce, [&] {
+      _appName = localizedName(_platform.mainBundle, _platform.localization).value_or("");
+    });
+  });
+  return _appName;
+}
+
+std::optional<std::string> Service::userAgent() const {
+  return guarded([&] {
+    return userAgentFor({appName(), bundleVersion(), _macAppstoreID}, _machineModel,
+                        _platform.kernel);
+  });
+}
+
+void Service::_setUserAgent(platform::URLRequest& request) const {
+  if (auto agent = userAgent()) request.headers.emplace_back("User-Agent", std::move(*agent));
+}
+
+std::string Service::recommenderURL() const {
+  return guarded([&] {
+    const bool update = truthValue(_platform.userDefaults.objectForKey(keys::kShowUpdateWindow));
+    const char* variant = update ? "_U" : _firstRun ? "_F" : "";
+    return _endpoints.recommenderDocument(_localeSuffix, variant);
+  });
+}
+
+void Service::launchHandler() {
+  guarded([&] {
+    _platform.application.registerFont("DroidSans-Regular", "ttf");
+    fileEarlierStoreRating();
+    _launchHandled = true;
+    reset();
+  });
+}
+
+} // namespace wrenvale

@@ -1,0 +1,35 @@
+// Replaces a file in one step: whoever opens it finds the old content or the new, whole, also after
+// the machine lost its power.
+
+#ifndef WRENVALE_DESKTOP_LINUX_SETTINGS_FILEREPLACEMENT_H
+#define WRENVALE_DESKTOP_LINUX_SETTINGS_FILEREPLACEMENT_H
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "desktop/linux/settings/FileIdentity.h"
+
+namespace wrenvale::platform {
+
+struct FileReplacement {
+  std::string target; // not a link
+  std::string_view content;
+  std::string moveOldTo = {}; // another name in the same folder for what is replaced; may be empty
+};
+
+/// Makes the replacement durable; nothing when it could not, with the old file as it was. The new
+/// one has the old one's permissions and owner, or 0600 when there was none, and a later time of
+/// modification. One caller at a time for one target: the new content is first written beside it,
+/// to a file with ".new" added to its name, and one left over from a crash is overwritten.
+std::optional<FileIdentity> replaceFile(const FileReplacement& replacement);
+
+/// Makes the folder and those above it that are missing, for the user alone; false when it cannot.
+bool makeFolder(const std::string& path);
+
+/// The folder that the file is in.
+std::string folderOf(const std::string& path);
+
+} // namespace wrenvale::platform
+
+#endif

@@ -1,0 +1,68 @@
+#include "desktop/linux/settings/SmallFile.h"
+
+#include <algorithm>
+#include <cerrno>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace wrenvale::platform {
+
+namespace {
+
+class Descriptor {
+public:
+  explicit Descriptor(int number)
+      : number_(number) {}
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  ~Descriptor() {
+    if (number_ >= 0) ::close(number_);
+  }
+  int number() const { return number_; }
+
+private:
+  const int number_;
+};
+
+// Answered before opening too: that alone would wake some devices, and it can take the system twice
+// as long to fail to open a file as to say that there is none.
+bool isRegularFile(const char* path) {
+  struct stat status;
+  return ::stat(path, &status) == 0 && S_ISREG(status.st_mode);
+}
+
+bool isRegularFile(int file) {
+  struct stat status;
+  return ::fstat(file, &status) == 0 && S_ISREG(status.st_mode);
+}
+
+ssize_t readSome(int file, char* to, std::size_t size) {
+  ssize_t count;
+  do
+    count = ::read(file, to, size);
+  while (count < 0 && errno == EINTR);
+  return count;
+}
+
+} // namespace
+
+// The size that the system states is not used: files that the kernel makes up state a wrong one.
+std::optional<std::string> beginningOfFile(const char* path, std::size_t limit) {
+  if (!isRegularFile(path)) return std::nullopt;
+  const Descriptor file(::open(path, O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+  if (file.number() < 0 || !isRegularFile(file.number())) return std::nullopt;
+  std::string content;
+  char block[4096];
+  while (content.size() < limit) {
+    const auto count =
+        readSome(file.number(), block, std::min(sizeof block, limit - content.size()));
+    if (count < 0) return std::nullopt;
+    if (count == 0) break;
+    content.append(block, static_cast<std::size_t>(count));
+  }
+  return content;
+}
+
+} // namespace wrenvale::platform

@@ -1,0 +1,42 @@
+// The platform of this library: the system parts and what Qt adds. Its objects are never destroyed,
+// since background threads may still use them while the process ends.
+
+#include "desktop/Modules.h"
+#include "desktop/WebViewModule.h"
+#include "desktop/qt/alerts/QtAlerts.h"
+#include "desktop/qt/app/LaunchEvent.h"
+#include "desktop/qt/app/QtApplication.h"
+#include "desktop/qt/app/QtDesktop.h"
+#include "desktop/qt/app/QtMenus.h"
+#include "desktop/qt/app/QtQueues.h"
+#include "desktop/qt/rate/QtRateWindows.h"
+#include "desktop/qt/recommender/QtRecommenderWindows.h"
+#include "platform/Platform.h"
+
+namespace wrenvale::platform {
+
+namespace {
+
+const Platform& makePlatform() {
+  const SystemParts& system = builtInSystemParts();
+  auto& queues = *new QtQueues(system.urlLoading);
+  callWhenLaunched([&queues] { queues.start(); });
+  return *new Platform{system,
+                       *new QtLocalization,
+                       *new QtApplication(system.userDefaults),
+                       *new QtWorkspace,
+                       queues,
+                       *new QtRateWindows,
+                       *new QtAlerts,
+                       *new QtRecommenderWindows(modulePath(kWebViewModuleFile)),
+                       *new QtMenus};
+}
+
+} // namespace
+
+const Platform& builtInPlatform() {
+  static const Platform& platform = makePlatform();
+  return platform;
+}
+
+} // namespace wrenvale::platform

@@ -1,0 +1,54 @@
+#include "desktop/qt/app/LaunchEvent.h"
+
+#include <utility>
+#include <vector>
+
+#include <QAbstractEventDispatcher>
+#include <QCoreApplication>
+#include <QThread>
+
+namespace wrenvale::platform {
+
+namespace {
+
+// Handlers that still wait. Main thread only, or before there is any other.
+std::vector<std::function<void()>>& waiting() {
+  static auto& handlers = *new std::vector<std::function<void()>>;
+  return handlers;
+}
+
+void launch() {
+  for (const auto& handler : std::exchange(waiting(), {}))
+    handler();
+}
+
+// The main thread's dispatcher begins a turn; inside a loop that is the host's launch. Called
+// before the dispatcher looks at any event, so before everything that the host queued.
+void turn(QObject* connections) {
+  if (QThread::currentThread()->loopLevel() == 0) return;
+  connections->deleteLater();
+  QObject::disconnect(QAbstractEventDispatcher::instance(), nullptr, connections, nullptr);
+  launch();
+}
+
+// Runs whenever the host has created an application object.
+void watchDispatcher() {
+  auto* dispatcher = QAbstractEventDispatcher::instance();
+  if (waiting().empty() || !dispatcher) return;
+  auto* connections = new QObject(dispatcher);
+  const auto onTurn = [connections] { turn(connections); };
+  // One of the two comes first in every kind of dispatcher.
+  QObject::connect(dispatcher, &QAbstractEventDispatcher::awake, connections, onTurn);
+  QObject::connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock, connections, onTurn);
+}
+
+} // namespace
+
+void callWhenLaunched(std::function<void()> handler) {
+  const bool isFirst = waiting().empty();
+  waiting().push_back(std::move(handler));
+  // Called at once where the application object is there already.
+  if (isFirst) qAddPreRoutine(watchDispatcher);
+}
+
+} // namespace wrenvale::platform

@@ -1,0 +1,104 @@
+#include "desktop/qt/app/QtMenus.h"
+
+#include <utility>
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPointer>
+
+#include "desktop/qt/app/Toolkit.h"
+
+namespace wrenvale::platform {
+
+namespace {
+
+bool isStandardHelp(const QAction& action) {
+  if (action.objectName() == QLatin1String("showHelp")) return true;
+  const auto keys = QKeySequence::keyBindings(QKeySequence::HelpContents);
+  for (const auto& key : action.shortcuts())
+    if (keys.contains(key)) return true;
+  return false;
+}
+
+class QtMenuItem final : public MenuItem {
+public:
+  explicit QtMenuItem(QAction* action)
+      : action_(action) {}
+
+  std::string title() const override { return action_ ? action_->text().toStdString() : ""; }
+  void setTitle(std::string_view title) override {
+    if (action_) action_->setText(fromUTF8(title));
+  }
+  std::string action() const override {
+    return action_ && isStandardHelp(*action_) ? "showHelp:" : "";
+  }
+  std::unique_ptr<Menu> submenu() const override {
+    return action_ ? QtMenus().menu(action_->menu<QMenu*>()) : nullptr;
+  }
+
+private:
+  const QPointer<QAction> action_;
+};
+
+// A menu bar holds actions as a menu does.
+class QtMenu final : public Menu {
+public:
+  explicit QtMenu(QWidget* menu)
+      : menu_(menu) {}
+
+  std::vector<std::unique_ptr<MenuItem>> items() const override {
+    std::vector<std::unique_ptr<MenuItem>> result;
+    if (!menu_) return result;
+    for (auto* action : menu_->actions())
+      result.push_back(std::make_unique<QtMenuItem>(action));
+    return result;
+  }
+
+  void addItem(NewMenuItem item) override {
+    if (!menu_) return;
+    auto* action = new QAction(fromUTF8(item.title), menu_);
+    action->setObjectName(fromUTF8(item.action).chopped(1));
+    action->setMenuRole(QAction::NoRole);
+    if (!item.keyEquivalent.empty()) action->setShortcut("Ctrl+" + fromUTF8(item.keyEquivalent));
+    QObject::connect(action, &QAction::triggered, action,
+                     [action, choose = std::move(item.choose)] { choose(action); });
+    menu_->addAction(action);
+  }
+
+  void addSeparator() override {
+    if (!menu_) return;
+    auto* separator = new QAction(menu_);
+    separator->setSeparator(true);
+    menu_->addAction(separator);
+  }
+
+private:
+  const QPointer<QWidget> menu_;
+};
+
+std::unique_ptr<Menu> weakly(QWidget* menu) {
+  return menu ? std::make_unique<QtMenu>(menu) : nullptr;
+}
+
+} // namespace
+
+std::unique_ptr<Menu> QtMenus::menu(HostMenu* menu) const {
+  return weakly(menu);
+}
+
+std::unique_ptr<Menu> QtMenus::menuBar(HostMenuBar* menuBar) const {
+  return weakly(menuBar);
+}
+
+// A tab would begin what is shown as the item's key.
+std::string QtMenus::titleForText(std::string_view text) const {
+  std::string title;
+  for (const char character : text) {
+    if (character == '&') title += '&';
+    title += character == '\t' ? ' ' : character;
+  }
+  return title;
+}
+
+} // namespace wrenvale::platform

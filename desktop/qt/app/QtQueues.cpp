@@ -1,0 +1,39 @@
+#include "desktop/qt/app/QtQueues.h"
+
+#include <cstdlib>
+
+#include <QCoreApplication>
+
+namespace wrenvale::platform {
+
+namespace {
+
+constexpr std::chrono::milliseconds kPatienceAtExit{80};
+
+// What the handlers of the process's end, plain functions, are to end.
+QtQueues* started = nullptr;
+
+void endStarted() {
+  started->end();
+}
+
+} // namespace
+
+std::unique_ptr<Queue> QtQueues::makeSerialQueue() {
+  return std::make_unique<BackgroundQueue>(threads_, 1);
+}
+
+void QtQueues::start() {
+  started = this;
+  qAddPostRoutine(endStarted); // as a rule, the application object goes before the process
+  std::atexit(endStarted);     // a host may exit without
+  mainQueue_.open();
+}
+
+void QtQueues::end() {
+  mainQueue_.close();
+  urlLoading_.cancelAllRequests();
+  threads_.end(kPatienceAtExit);
+}
+
+} // namespace wrenvale::platform

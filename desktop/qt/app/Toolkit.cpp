@@ -1,0 +1,59 @@
+#include "desktop/qt/app/Toolkit.h"
+
+#include <cstdlib>
+#include <vector>
+
+#include <QApplication>
+#include <QPointer>
+#include <QStyle>
+#include <QWidget>
+
+namespace wrenvale::platform {
+
+namespace {
+
+constexpr int kAnimationDuration = 250;
+
+// The windows that wait for their deletion. Never destroyed: the process's end needs them.
+std::vector<QPointer<QWidget>>& waiting() {
+  static auto& windows = *new std::vector<QPointer<QWidget>>;
+  return windows;
+}
+
+void keepWaiting() {
+  for (const auto& window : waiting())
+    if (window) QCoreApplication::removePostedEvents(window, QEvent::DeferredDelete);
+}
+
+} // namespace
+
+bool hasWindows() {
+  return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
+}
+
+int animationDuration() {
+  const bool wanted = QApplication::style()->styleHint(QStyle::SH_Widget_Animation_Duration) > 0;
+  return wanted ? kAnimationDuration : 0;
+}
+
+void deleteWindowLater(QWidget& window) {
+  [[maybe_unused]] static const int registered = std::atexit(keepWaiting);
+  std::erase(waiting(), nullptr);
+  waiting().emplace_back(&window);
+  window.deleteLater();
+}
+
+QString translated(const char* context, const char* text) {
+  const QString translation = QCoreApplication::translate(context, text);
+  return translation.isEmpty() ? QString::fromUtf8(text) : translation;
+}
+
+QString translated(const char* english) {
+  return translated("Wrenvale", english);
+}
+
+QString fromUTF8(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+} // namespace wrenvale::platform

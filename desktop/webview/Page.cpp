@@ -1,0 +1,260 @@
+#include "desktop/webview/Page.h"
+
+#include <utility>
+
+#include <QAuthenticator>
+#include <QColor>
+#include <QCoreApplication>
+#include <QWebEngineFileSystemAccessRequest>
+#include <QWebEngineFullScreenRequest>
+#include <QWebEngineRegisterProtocolHandlerRequest>
+#include <QWebEngineScript>
+#include <QWebEngineScriptCollection>
+#include <QWebEngineSettings>
+
+#include "desktop/webview/QtVersions.h"
+
+namespace wrenvale::platform {
+
+namespace {
+
+constexpr const char* kUnreachable = QT_TRANSLATE_NOOP("Wrenvale", "The server cannot be reached.");
+constexpr const char* kSilent = QT_TRANSLATE_NOOP("Wrenvale", "The server does not answer.");
+constexpr const char* kCheck =
+    QT_TRANSLATE_NOOP("Wrenvale", "Check the connection to the Internet, and try again later.");
+constexpr const char* kEnded = QT_TRANSLATE_NOOP("Wrenvale", "The page has ended unexpectedly.");
+
+std::string text(const QUrl& url) {
+  return url.toEncoded().toStdString();
+}
+
+// What a page of the web may go to; everything else is of this machine or of other programs.
+bool isOfTheWeb(const QUrl& url) {
+  for (const char* scheme : {"http", "https", "about", "data", "blob", "javascript"})
+    if (url.scheme() == QLatin1String(scheme)) return true;
+  return false;
+}
+
+QWebEngineScript script(const QString& name, const QString& source, quint32 world, bool inFrames) {
+  QWebEngineScript script;
+  script.setName(name);
+  script.setSourceCode(source);
+  script.setInjectionPoint(QWebEngineScript::DocumentCreation);
+  script.setWorldId(world);
+  script.setRunsOnSubFrames(inFrames);
+  return script;
+}
+
+} // namespace
+
+// While one is there, the page is in the middle of something.
+class Page::Call {
+public:
+  explicit Call(Page& page)
+      : page_(page) {
+    ++page_.calls_;
+  }
+  ~Call() {
+    if (--page_.calls_ == 0 && !page_.delegate_) page_.deleteLater();
+  }
+  Call(const Call&) = delete;
+  Call& operator=(const Call&) = delete;
+
+private:
+  Page& page_;
+};
+
+Page::Page(QWebEngineProfile& profile, WebViewDelegate& delegate)
+    : QWebEnginePage(&profile)
+    , delegate_(&delegate) {
+  settle();
+  refuseRequests();
+  insertScripts();
+  timeout_.setSingleShot(true);
+  connect(&timeout_, &QTimer::timeout, this, [this] {
+    fail(requestedUrl(), kSilent, kCheck);
+    triggerAction(Stop);
+  });
+  connect(this, &QWebEnginePage::loadingChanged, this, &Page::onLoading);
+  connect(this, &QWebEnginePage::newWindowRequested, this, &Page::onNewWindow);
+  connect(this, &QWebEnginePage::renderProcessTerminated, this, [this] {
+    scriptObject_.clear();
+    fail(url(), kEnded, "");
+  });
+}
+
+// Whatever else goes reports nothing any more.
+Page::~Page() {
+  delegate_ = nullptr;
+  disconnect(this, nullptr, this, nullptr);
+}
+
+void Page::retire() {
+  if (!std::exchange(delegate_, nullptr)) return;
+  timeout_.stop();
+  scriptObject_.clear();
+  setAudioMuted(true);
+  if (calls_ == 0) deleteLater();
+}
+
+// Most of it is the engine's default, which a later engine may change.
+void Page::settle() {
+  using Settings = QWebEngineSettings;
+  for (const auto attribute :
+       {Settings::ErrorPageEnabled, Settings::PluginsEnabled, Settings::PdfViewerEnabled,
+        Settings::FullScreenSupportEnabled, Settings::ScreenCaptureEnabled,
+        Settings::JavascriptCanAccessClipboard, Settings::JavascriptCanPaste,
+        Settings::LocalContentCanAccessRemoteUrls, Settings::LocalContentCanAccessFileUrls,
+        Settings::AllowRunningInsecureContent, Settings::AllowGeolocationOnInsecureOrigins,
+        Settings::AllowWindowActivationFromJavaScript, Settings::FocusOnNavigationEnabled,
+        Settings::HyperlinkAuditingEnabled, Settings::DnsPrefetchEnabled,
+        Settings::NavigateOnDropEnabled, Settings::WebGLEnabled, Settings::TouchIconsEnabled,
+        Settings::AutoLoadIconsForPage})
+    settings()->setAttribute(attribute, false);
+  settings()->setAttribute(Settings::PlaybackRequiresUserGesture, true);
+  settings()->setAttribute(Settings::WebRTCPublicInterfacesOnly, true);
+  settings()->setUnknownUrlSchemePolicy(Settings::DisallowUnknownUrlSchemes);
+  setBackgroundColor(QColor(Qt::white));
+}
+
+void Page::refuseRequests() {
+  denyPermissions(*this);
+  connect(this, &QWebEnginePage::fullScreenRequested, this,
+          [](QWebEngineFullScreenRequest request) { request.reject(); });
+  connect(this, &QWebEnginePage::registerProtocolHandlerRequested, this,
+          [](QWebEngineRegisterProtocolHandlerRequest request) { request.reject(); });
+  connect(this, &QWebEnginePage::fileSystemAccessRequested, this,
+          [](QWebEngineFileSystemAccessRequest request) { request.reject(); });
+  // Unanswered, the engine would try again and again without a name.
+  connect(this, &QWebEnginePage::authenticationRequired, this,
+          [](const QUrl&, QAuthenticator* answer) { *answer = QAuthenticator(); });
+}
+
+void Page::insertScripts() {
+  scripts().insert(
+      script("script object", scriptObject_.source(), QWebEngineScript::MainWorld, false));
+  scripts().insert(script("detached links", NavigationRemarks::pagesSource(),
+                          QWebEngineScript::MainWorld, true));
+  scripts().insert(script("manners", remarks_.source(), QWebEngineScript::ApplicationWorld, true));
+}
+
+void Page::start(const QUrl& url, std::chrono::milliseconds timeout) {
+  if (url.scheme() != "http" && url.scheme() != "https") {
+    QTimer::singleShot(0, this, [this, url] { fail(url, kUnreachable, kCheck); });
+    return;
+  }
+  timeout_.setInterval(timeout);
+  begin(url);
+  load(url);
+  setVisible(true); // or the page would be held back until its window shows it
+}
+
+bool Page::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) {
+  if (!delegate_ || !isOfTheWeb(url)) return false;
+  const bool use = decide(url, remarks_.typeOf(url, type), isMainFrame) == PolicyDecision::kUse;
+  if (use && isMainFrame) begin(url);
+  return use;
+}
+
+// Redirections share the time that is left. A page that has begun may lead on to another one,
+// before it has shown itself or later, and that has a time of its own.
+void Page::begin(const QUrl& url) {
+  awaited_ = url;
+  if (!delegate_ || timeout_.isActive()) return;
+  hasDocument_ = hasFailed_ = false;
+  timeout_.start();
+}
+
+PolicyDecision Page::decide(const QUrl& url, platform::NavigationType type, bool isMainFrame) {
+  const Call call(*this);
+  return delegate_->decidePolicyForNavigationAction(
+      {.url = text(url), .mainDocumentURL = text(isMainFrame ? url : this->url()), .type = type});
+}
+
+bool Page::javaScriptPrompt(const QUrl& origin, const QString& message, const QString&,
+                            QString* result) {
+  if (!delegate_) return false;
+  const Call call(*this);
+  return scriptObject_.isGreeting(message) ? greet(origin, *result) : perform(message, *result);
+}
+
+bool Page::greet(const QUrl& origin, QString& result) {
+  timeout_.stop();
+  hasDocument_ = hadDocument_ = true;
+  scriptObject_.clear();
+  delegate_->didClearWindowObject(text(origin));
+  if (!scriptObject_.isPublished()) return false;
+  result = scriptObject_.introduction();
+  return true;
+}
+
+bool Page::perform(const QString& message, QString& result) {
+  if (!scriptObject_.isCall(message)) return false;
+  const auto call = scriptObject_.call(message);
+  const auto answer =
+      call ? delegate_->invokeScriptMethod(call->name, call->arguments) : std::nullopt;
+  result = answer ? ScriptObject::encoded(*answer) : QString();
+  return true;
+}
+
+// What pages say on the console is of no interest to the host.
+void Page::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString& message, int,
+                                    const QString&) {
+  const auto unasked = remarks_.note(message);
+  if (unasked && delegate_) decide(*unasked, platform::NavigationType::kLinkClicked, true);
+}
+
+void Page::onLoading(const QWebEngineLoadingInfo& info) {
+  if (!delegate_) return;
+  if (info.status() == QWebEngineLoadingInfo::LoadStartedStatus)
+    onLeaving(info.url());
+  else
+    onEnd(info);
+}
+
+// A page has arrived when it has begun: what cuts it off later is no failure, and neither is one
+// that tells of an error. A load that something else took the place of is one only when there is
+// nothing to see: a download, say.
+void Page::onEnd(const QWebEngineLoadingInfo& info) {
+  using Info = QWebEngineLoadingInfo;
+  const bool arrived = hasDocument_ || info.status() == Info::LoadSucceededStatus ||
+                       info.errorDomain() == Info::HttpStatusCodeDomain;
+  // From Qt 6.8 on, a page's end may be told after the one that it leads on to has begun.
+  if (arrived && timeout_.isActive() && info.url() != awaited_) return;
+  timeout_.stop();
+  if (arrived) {
+    hadDocument_ = true;
+  } else if (info.status() == Info::LoadFailedStatus || !hadDocument_) {
+    fail(info.url(), kUnreachable, kCheck);
+  }
+}
+
+// The engine asks nobody about addresses that are for other programs.
+void Page::onLeaving(const QUrl& url) {
+  if (!isOfTheWeb(url) && remarks_.isClickedLink(url))
+    decide(url, platform::NavigationType::kLinkClicked, true);
+}
+
+// No window ever comes of it, whatever the answer.
+void Page::onNewWindow(const QWebEngineNewWindowRequest& request) {
+  if (!delegate_) return;
+  const Call call(*this);
+  const QUrl url = request.requestedUrl();
+  delegate_->decidePolicyForNewWindowAction(
+      {.url = text(url),
+       .mainDocumentURL = text(url),
+       .type = remarks_.typeOfNewWindow(url, request.isUserInitiated())});
+}
+
+void Page::fail(const QUrl& url, const char* reason, const char* advice) {
+  const auto translated = [](const char* text) {
+    return QCoreApplication::translate("Wrenvale", text).toStdString();
+  };
+  if (!delegate_ || std::exchange(hasFailed_, true)) return;
+  const Call call(*this);
+  timeout_.stop();
+  delegate_->didFailProvisionalLoad(
+      {.description = translated(reason), .advice = translated(advice), .url = text(url)}, true);
+}
+
+} // namespace wrenvale::platform

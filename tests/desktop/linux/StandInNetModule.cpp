@@ -1,0 +1,42 @@
+// A net module that reaches no network, for the tests of what loads the module.
+
+#include "desktop/NetModule.h"
+#include "platform/Encryption.h"
+#include "platform/JSONSerialization.h"
+#include "platform/URLLoading.h"
+
+namespace wrenvale::platform {
+namespace {
+
+// Answers with the address, and with "cancelled" once cancelled: a real module answers nothing
+// then, which could not be told from a module that was not asked.
+struct Loading : URLLoading {
+  std::optional<std::string> sendSynchronousRequest(const URLRequest& request) override {
+    return cancelled ? "cancelled" : request.url;
+  }
+  void cancelAllRequests() override { cancelled = true; }
+  bool cancelled = false;
+};
+
+struct StatusFive : Encryption {
+  ImportedKey importPublicKey(std::string_view) override { return {.status = 5, .key = nullptr}; }
+};
+
+struct Echo : JSONSerialization {
+  JSONResult JSONObjectWithData(std::string data) override {
+    return {.object = Value(std::move(data)), .error = ""};
+  }
+};
+
+} // namespace
+} // namespace wrenvale::platform
+
+extern "C" __attribute__((visibility("default"))) const wrenvale::platform::NetModule*
+wrenvale_net_module() {
+  using namespace wrenvale::platform;
+  static Loading loading;
+  static StatusFive encryption;
+  static Echo json;
+  static const NetModule module{.urlLoading = loading, .encryption = encryption, .json = json};
+  return &module;
+}

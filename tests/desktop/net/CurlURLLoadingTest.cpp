@@ -1,0 +1,236 @@
+#include "desktop/net/http/CurlURLLoading.h"
+
+#include <gmock/gmock.h>
+
+#include <atomic>
+#include <cstdlib>
+#include <future>
+
+#include <QByteArray>
+
+#include "tests/desktop/net/LoopbackServer.h"
+
+namespace wrenvale::platform {
+
+namespace {
+
+using namespace std::chrono_literals;
+using testing::HasSubstr;
+using testing::Not;
+using testing::SizeIs;
+using Body = std::optional<std::string>;
+using Client = LoopbackServer::Connection;
+
+std::future<Body> begun(CurlURLLoading& loading, URLRequest request) {
+  return std::async(std::launch::async, [&loading, request = std::move(request)] {
+    return loading.sendSynchronousRequest(request);
+  });
+}
+
+Body loaded(std::string url, std::chrono::seconds timeout = 20s) {
+  CurlURLLoading loading;
+  return begun(loading, {.url = std::move(url), .timeoutInterval = timeout}).get();
+}
+
+// As the content coding "deflate" wants it: without the length that Qt puts in front.
+std::string deflated(const std::string& text) {
+  return qCompress(QByteArray::fromStdString(text)).mid(4).toStdString();
+}
+
+std::string deflatedAnswer(const std::string& deflated) {
+  return answerWith(deflated, "200 OK", "Content-Encoding: deflate\r\n");
+}
+
+std::string redirection(std::string_view location, std::string_view status = "302 Found") {
+  return answerWith("", status, "Location: " + std::string(location) + "\r\n");
+}
+
+std::string summary(const Body& body) {
+  if (!body) return "nothing";
+  return std::to_string(body->size()) + " bytes: " + body->substr(0, 60);
+}
+
+TEST(CurlURLLoading, TakesWholeBodiesOfAnyStatus) {
+  const std::string longest(kLongestBody, 'x');
+  const std::string chunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
+  const auto corrupt = deflated(std::string(1000, 'a')).replace(2, 4, "\xFF\xFF\xFF\xFF");
+  const struct {
+    const char* name;
+    std::string answer;
+    Body expected;
+  } rows[] = {
+      {"plain", answerWith("[1]"), "[1]"},
+      {"empty", answerWith(""), ""},
+      {"no content", "HTTP/1.1 204 No Content\r\n\r\n", ""},
+      {"not found", answerWith("<html>", "404 Not Found"), "<html>"},
+      {"bad request", answerWith("what?", "400 Bad Request"), "what?"},
+      {"unusual status", answerWith("short", "418 I'm a teapot"), "short"},
+      {"server error", answerWith("sorry", "500 Internal Server Error"), "sorry"},
+      {"unauthorized", answerWith("who?", "401 No", "WWW-Authenticate: Basic realm=\"r\"\r\n"),
+       "who?"},
+      {"redirection to nowhere", answerWith("lost", "302 Found"), "lost"},
+      {"until the end", "HTTP/1.1 200 OK\r\n\r\nall", "all"},
+      {"chunked", chunked + "2\r\nab\r\n1\r\nc\r\n0\r\n\r\n", "abc"},
+      {"deflated", deflatedAnswer(deflated("small")), "small"},
+      {"binary", answerWith(std::string_view("\0\xFF\r\n", 4)), std::string("\0\xFF\r\n", 4)},
+      {"longest", answerWith(longest), longest},
+      {"longest when inflated", deflatedAnswer(deflated(longest)), longest},
+      {"too long", answerWith(longest + "x"), std::nullopt},
+      {"too long when inflated", deflatedAnswer(deflated(longest + "x")), std::nullopt},
+      {"bomb", deflatedAnswer(deflated(std::string(64 << 20, '\0'))), std::nullopt},
+      {"corrupt", deflatedAnswer(corrupt), std::nullopt},
+      {"truncated", "HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\n[1]", std::nullopt},
+      {"truncated error", "HTTP/1.1 404 No\r\nContent-Length: 10\r\n\r\n[1]", std::nullopt},
+      {"truncated head", "HTTP/1.1 200 OK\r\nContent-Le", std::nullopt},
+      {"closed", "", std::nullopt},
+      {"no HTTP", "220 smtp.example.com ready\r\n", std::nullopt},
+  };
+  for (const auto& row : rows) {
+    const LoopbackServer server(row.answer);
+    const auto body = loaded(server.url());
+    EXPECT_TRUE(body == row.expected) << row.name << " gave " << summary(body);
+  }
+}
+
+TEST(CurlURLLoading, StopsAnEndlessBodyAtItsBound) {
+  std::atomic<std::size_t> sent = 0;
+  const LoopbackServer server([&sent](Client& client) {
+    const std::string block(1 << 16, 'x');
+    client.send("HTTP/1.1 200 OK\r\n\r\n");
+    while (client.send(block))
+      sent += block.size();
+  });
+  EXPECT_EQ(loaded(server.url()), std::nullopt);
+  EXPECT_GT(sent, kLongestBody);
+  EXPECT_LT(sent, 3 * kLongestBody) << "what the sockets hold comes on top of the bound";
+}
+
+TEST(CurlURLLoading, TakesNoEndlessHead) {
+  for (const std::string line : {"X: y\r\n", "HTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 200 OK\r\n"}) {
+    const LoopbackServer server([&](Client& client) {
+      client.send("HTTP/1.1 200 OK\r\n");
+      while (client.send(line)) {
+      }
+    });
+    EXPECT_EQ(loaded(server.url()), std::nullopt) << line;
+  }
+}
+
+TEST(CurlURLLoading, TimeOutIsForTheWholeExchange) {
+  const LoopbackServer silent([](Client& client) { client.hang(); });
+  const LoopbackServer extending([](Client& client) {
+    client.send("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n1;");
+    while (client.send("extension")) {
+    }
+  });
+  const LoopbackServer dripping([](Client& client) {
+    client.send("HTTP/1.1 200 OK\r\nContent-Length: 1000000\r\n\r\n");
+    while (client.send("x"))
+      std::this_thread::sleep_for(20ms);
+  });
+  const LoopbackServer redirecting(
+      [&](Client& client) { client.send(redirection(dripping.url())); });
+  for (const auto* server : {&silent, &extending, &dripping, &redirecting}) {
+    const auto begin = std::chrono::steady_clock::now();
+    EXPECT_EQ(loaded(server->url(), 1s), std::nullopt);
+    const auto taken = std::chrono::steady_clock::now() - begin;
+    EXPECT_GE(taken, 1s);
+    EXPECT_LT(taken, 3s);
+  }
+}
+
+TEST(CurlURLLoading, FollowsRedirectionsWithinBounds) {
+  // "/n" leads to "/n-1" and so on to the body.
+  const LoopbackServer countdown([](Client& client) {
+    const auto steps = std::stoi(client.head().substr(std::string_view("get /").size()));
+    client.send(steps == 0 ? answerWith("there")
+                           : redirection(std::string("/").append(std::to_string(steps - 1))));
+  });
+  EXPECT_EQ(loaded(countdown.url("/10")), "there");
+  EXPECT_EQ(loaded(countdown.url("/11")), std::nullopt);
+
+  const LoopbackServer loop([](Client& client) { client.send(redirection("/again")); });
+  EXPECT_EQ(loaded(loop.url()), std::nullopt);
+  EXPECT_THAT(loop.requests(), SizeIs(11));
+
+  for (const std::string location :
+       {"file:///etc/hostname", "data:text/plain,hello", "ftp://127.0.0.1/", "http://", "//"}) {
+    const LoopbackServer server(redirection(location, "301 Moved Permanently"));
+    EXPECT_EQ(loaded(server.url()), std::nullopt) << location;
+  }
+}
+
+TEST(CurlURLLoading, LoadsNothingButWebAddresses) {
+  for (const char* url : {"", "x", "/etc/hostname", "file:///etc/hostname", "data:,hello", "qrc:/x",
+                          "ftp://127.0.0.1/x", "http:///x", "http://127.0.0.1:99999/",
+                          "http://no.such.host.invalid/", "http://127.0.0.1:1/"})
+    EXPECT_EQ(loaded(url, 5s), std::nullopt) << url;
+}
+
+TEST(CurlURLLoading, SendsTheHeadersAsGivenAndLooksUpTheHostByName) {
+  const LoopbackServer server(answerWith("ok"));
+  CurlURLLoading loading;
+  const std::string agent = "Photo%20Tool/1204 123456789 Darwin/14.5.0 (x86_64) (M%2C1)";
+  const auto url = server.url("/store/a%2Fb?data=%2B", "localhost");
+  EXPECT_EQ(begun(loading, {.url = url, .headers = {{"User-Agent", agent}}}).get(), "ok");
+  EXPECT_EQ(begun(loading, {.url = server.url(), .headers = {{"A", "b\r\nInjected: 1"}}}).get(),
+            std::nullopt);
+  ASSERT_THAT(server.requests(), SizeIs(1));
+  const auto head = server.requests().front();
+  EXPECT_THAT(head, HasSubstr("get /store/a%2fb?data=%2b http/1.1\r\n"));
+  EXPECT_THAT(head, HasSubstr("user-agent: photo%20tool/1204 123456789 darwin/14.5.0 (x86_64) "
+                              "(m%2c1)\r\n"));
+  EXPECT_THAT(head, HasSubstr("host: localhost:" + std::to_string(server.port()) + "\r\n"));
+}
+
+TEST(CurlURLLoading, KeepsNeitherCookiesNorCachedAnswers) {
+  const auto headers = "Set-Cookie: id=1; Path=/\r\nCache-Control: max-age=3600\r\nETag: \"1\"\r\n"
+                       "Last-Modified: Mon, 01 Jan 2024 00:00:00 GMT\r\n";
+  const LoopbackServer server([&](Client& client) {
+    const bool isFirst = client.head().starts_with("get /first");
+    client.send(answerWith("x", isFirst ? "302 Found" : "200 OK",
+                           (isFirst ? "Location: /second\r\n" : "") + std::string(headers)));
+  });
+  CurlURLLoading loading;
+  for (int i = 0; i < 2; ++i)
+    EXPECT_EQ(begun(loading, {.url = server.url("/first")}).get(), "x");
+  ASSERT_THAT(server.requests(), SizeIs(4));
+  for (const auto& head : server.requests()) {
+    EXPECT_THAT(head, Not(HasSubstr("cookie:")));
+    EXPECT_THAT(head, Not(HasSubstr("if-modified-since:")));
+    EXPECT_THAT(head, Not(HasSubstr("if-none-match:")));
+  }
+}
+
+TEST(CurlURLLoading, UsesTheProxyOfTheEnvironment) {
+  const LoopbackServer proxy(answerWith("by proxy"));
+  setenv("http_proxy", proxy.url().c_str(), 1);
+  EXPECT_EQ(loaded("http://no.such.host.invalid/x"), "by proxy");
+  unsetenv("http_proxy");
+  EXPECT_THAT(proxy.requests().at(0), HasSubstr("get http://no.such.host.invalid/x http/1.1\r\n"));
+}
+
+TEST(CurlURLLoading, CancellationEndsAllRequestsAtOnceAndForEver) {
+  std::promise<void> bothArrived;
+  std::atomic<int> arrived = 0;
+  const LoopbackServer server([&](Client& client) {
+    if (client.head().starts_with("get /half")) client.send("HTTP/1.1 200 OK\r\n\r\nhalf");
+    if (++arrived == 2) bothArrived.set_value();
+    client.hang();
+  });
+  CurlURLLoading loading;
+  auto half = begun(loading, {.url = server.url("/half")});
+  auto silent = begun(loading, {.url = server.url("/silent")});
+  bothArrived.get_future().wait();
+  const auto begin = std::chrono::steady_clock::now();
+  loading.cancelAllRequests();
+  EXPECT_EQ(half.get(), std::nullopt);
+  EXPECT_EQ(silent.get(), std::nullopt);
+  EXPECT_EQ(begun(loading, {.url = server.url("/late")}).get(), std::nullopt);
+  EXPECT_LT(std::chrono::steady_clock::now() - begin, 100ms);
+  EXPECT_THAT(server.requests(), SizeIs(2));
+}
+
+} // namespace
+
+} // namespace wrenvale::platform

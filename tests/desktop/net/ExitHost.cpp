@@ -1,0 +1,63 @@
+// A host that ends while its background threads are inside the net module.
+//
+//   wrenvale_net_exit_host <module> <milliseconds until then> <address>
+//
+// The threads keep downloading the address, or encrypting when it is a key. Prints the time at
+// which the end began, in nanoseconds of the monotonic clock.
+
+#include <dlfcn.h>
+#include <netdb.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+#include <thread>
+
+#include "desktop/NetModule.h"
+#include "platform/Encryption.h"
+#include "platform/URLLoading.h"
+
+using namespace wrenvale::platform;
+
+// Stands in for the system's: a name server that does not answer.
+extern "C" __attribute__((visibility("default"))) int getaddrinfo(const char*, const char*,
+                                                                  const addrinfo*, addrinfo**) {
+  sleep(10);
+  return EAI_AGAIN;
+}
+
+namespace {
+
+constexpr int kThreads = 3;
+
+void workForEver(const char* modulePath, std::string_view address) {
+  void* module = dlopen(modulePath, RTLD_NOW | RTLD_LOCAL);
+  const auto entry =
+      module ? reinterpret_cast<NetModuleEntry>(dlsym(module, kNetModuleEntry)) : nullptr;
+  if (!entry) {
+    std::fprintf(stderr, "no module: %s\n", dlerror());
+    std::abort();
+  }
+  const auto& parts = *entry();
+  while (true) {
+    if (address.starts_with("http")) {
+      parts.urlLoading.sendSynchronousRequest({.url = std::string(address)});
+    } else if (const auto imported = parts.encryption.importPublicKey(address); imported.key) {
+      imported.key->encrypt("email=");
+    }
+  }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+  if (argc != 4) return 2;
+  for (int i = 0; i < kThreads; ++i)
+    std::thread(workForEver, argv[1], argv[3]).detach();
+  std::this_thread::sleep_for(std::chrono::milliseconds(std::atoll(argv[2])));
+  const auto now = std::chrono::steady_clock::now().time_since_epoch();
+  std::printf("%lld\n", static_cast<long long>(std::chrono::nanoseconds(now).count()));
+  return 0;
+}

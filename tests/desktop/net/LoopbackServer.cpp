@@ -1,0 +1,106 @@
+#include "tests/desktop/net/LoopbackServer.h"
+
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cctype>
+
+namespace wrenvale::platform {
+
+namespace {
+
+std::string receivedHead(int socket) {
+  std::string head;
+  char buffer[4096];
+  while (head.find("\r\n\r\n") == std::string::npos) {
+    const auto count = recv(socket, buffer, sizeof(buffer), 0);
+    if (count <= 0) break;
+    head.append(buffer, static_cast<std::size_t>(count));
+  }
+  std::transform(head.begin(), head.end(), head.begin(),
+                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  return head;
+}
+
+} // namespace
+
+bool LoopbackServer::Connection::send(std::string_view bytes) {
+  while (!bytes.empty()) {
+    const auto count = ::send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+    if (count <= 0) return false;
+    bytes.remove_prefix(static_cast<std::size_t>(count));
+  }
+  return true;
+}
+
+void LoopbackServer::Connection::hang() {
+  char byte = 0;
+  while (recv(socket_, &byte, 1, 0) > 0) {
+  }
+}
+
+LoopbackServer::LoopbackServer(std::string answer)
+    : LoopbackServer([answer = std::move(answer)](Connection& client) { client.send(answer); }) {}
+
+LoopbackServer::LoopbackServer(Script script)
+    : script_(std::move(script))
+    , listener_(socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0)) {
+  sockaddr_in address{};
+  socklen_t size = sizeof(address);
+  address.sin_family = AF_INET;
+  address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+  auto* generic = reinterpret_cast<sockaddr*>(&address);
+  if (bind(listener_, generic, size) == 0 && listen(listener_, SOMAXCONN) == 0 &&
+      getsockname(listener_, generic, &size) == 0)
+    port_ = ntohs(address.sin_port);
+  acceptor_ = std::thread([this] { accept(); });
+}
+
+LoopbackServer::~LoopbackServer() {
+  shutdown(listener_, SHUT_RDWR);
+  acceptor_.join();
+  for (const int socket : sockets_)
+    shutdown(socket, SHUT_RDWR);
+  for (auto& thread : threads_)
+    thread.join();
+  for (const int socket : sockets_)
+    close(socket);
+  close(listener_);
+}
+
+std::string LoopbackServer::url(std::string_view path, std::string_view host) const {
+  return "http://" + std::string(host) + ":" + std::to_string(port_) + std::string(path);
+}
+
+std::vector<std::string> LoopbackServer::requests() const {
+  const std::lock_guard lock(mutex_);
+  return requests_;
+}
+
+void LoopbackServer::accept() {
+  for (int socket = 0; (socket = accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC)) >= 0;) {
+    sockets_.push_back(socket);
+    threads_.emplace_back([this, socket] { serve(socket); });
+  }
+}
+
+void LoopbackServer::serve(int socket) {
+  Connection client(socket, receivedHead(socket));
+  {
+    const std::lock_guard lock(mutex_);
+    requests_.push_back(client.head());
+  }
+  script_(client);
+  shutdown(socket, SHUT_WR);
+}
+
+std::string answerWith(std::string_view body, std::string_view status, std::string_view headers) {
+  std::string answer = "HTTP/1.1 ";
+  answer.append(status).append("\r\n").append(headers);
+  answer.append("Content-Length: ").append(std::to_string(body.size())).append("\r\n\r\n");
+  return answer.append(body);
+}
+
+} // namespace wrenvale::platform

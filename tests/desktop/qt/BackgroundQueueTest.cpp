@@ -1,0 +1,99 @@
+#include "desktop/qt/app/BackgroundQueue.h"
+
+#include <atomic>
+#include <future>
+#include <numeric>
+#include <semaphore>
+#include <stdexcept>
+#include <vector>
+
+#include <gmock/gmock.h>
+
+namespace wrenvale::platform {
+namespace {
+
+using namespace std::chrono_literals;
+
+class BackgroundQueueTest : public testing::Test {
+protected:
+  ~BackgroundQueueTest() override { threads_.end(10s); }
+
+  // A task that says when it has begun, and then waits to be let go.
+  Queue::Task held() {
+    return [this] {
+      begun_.release();
+      EXPECT_TRUE(gate_.try_acquire_for(10s));
+      ++ran_;
+    };
+  }
+  bool begins(int count) {
+    for (; count > 0; --count)
+      if (!begun_.try_acquire_for(10s)) return false;
+    return true;
+  }
+
+  BackgroundThreads threads_;
+  std::counting_semaphore<> begun_{0}, gate_{0};
+  std::atomic<int> ran_ = 0;
+};
+
+TEST_F(BackgroundQueueTest, RunsAsManyAtOnceAsItIsWide) {
+  for (const int width : {1, 3}) {
+    BackgroundQueue queue(threads_, width);
+    ran_ = 0;
+    for (int i = 0; i < 10; ++i)
+      queue.async(held());
+    EXPECT_TRUE(begins(width));
+    EXPECT_FALSE(begun_.try_acquire_for(20ms)) << "more than " << width;
+    gate_.release(10);
+    EXPECT_TRUE(begins(10 - width));
+  }
+}
+
+TEST_F(BackgroundQueueTest, OfWidthOneKeepsItsOrderPastAFailure) {
+  std::vector<int> ran;
+  std::promise<void> done;
+  BackgroundQueue queue(threads_, 1);
+  for (int i = 0; i < 100; ++i)
+    queue.async([&ran, i] {
+      ran.push_back(i);
+      if (i % 2) throw std::runtime_error("dropped");
+    });
+  queue.async([&] { done.set_value(); });
+  ASSERT_EQ(done.get_future().wait_for(10s), std::future_status::ready);
+  std::vector<int> expected(100);
+  std::iota(expected.begin(), expected.end(), 0);
+  EXPECT_EQ(ran, expected);
+}
+
+TEST_F(BackgroundQueueTest, DropsWhatComesTooFast) {
+  BackgroundQueue queue(threads_, 1);
+  queue.async(held());
+  ASSERT_TRUE(begins(1));
+  const auto most = BackgroundQueue::kMostWaiting;
+  std::size_t counted = 0;
+  std::promise<void> full, over;
+  for (std::size_t i = 0; i < 3 * most; ++i)
+    queue.async([&] {
+      if (++counted == most) full.set_value();
+    });
+  gate_.release();
+  ASSERT_EQ(full.get_future().wait_for(10s), std::future_status::ready);
+  queue.async([&] { over.set_value(); });
+  ASSERT_EQ(over.get_future().wait_for(10s), std::future_status::ready);
+  EXPECT_EQ(counted, most);
+}
+
+TEST_F(BackgroundQueueTest, BeginsNothingOnceTheThreadsEnd) {
+  BackgroundQueue queue(threads_, 1);
+  queue.async(held());
+  ASSERT_TRUE(begins(1));
+  queue.async([this] { ran_ = 100; });
+  threads_.end(0s);
+  gate_.release();
+  threads_.end(10s);
+  EXPECT_EQ(ran_, 1);
+}
+
+} // namespace
+} // namespace wrenvale::platform

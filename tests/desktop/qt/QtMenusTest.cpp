@@ -1,0 +1,178 @@
+// The Help-menu controller on real menus.
+
+#include <wrenvale/KVXWrenvaleController.h>
+
+#include <gmock/gmock.h>
+
+#include <QMenuBar>
+#include <QTest>
+#include <QTranslator>
+#include <QWidgetAction>
+
+#include "desktop/qt/app/QtDesktop.h"
+#include "desktop/qt/app/QtMenus.h"
+#include "tests/core/ServiceFixture.h"
+#include "tests/menu/OverAService.h"
+
+namespace wrenvale::platform {
+namespace {
+
+using testing::ElementsAre;
+
+// Real menus and translations, and a service that goes nowhere.
+class QtMenusTest : public ServiceTest {
+protected:
+  QtMenusTest() {
+    bar = new QMenuBar(&window);
+    help = bar->addMenu("&Help");
+  }
+
+  std::unique_ptr<KVXWrenvaleController> makeController() {
+    auto controller = std::make_unique<OverAService>(overReal);
+    controller->setMainMenu(bar);
+    controller->setHelpMenu(help);
+    return controller;
+  }
+
+  QAction* item(const char* name) const { return help->findChild<QAction*>(name); }
+
+  QtLocalization localization;
+  QtMenus menus;
+  const Platform real{{fake.mainBundle, fake.userDefaults, fake.locale, fake.kernel,
+                       fake.urlLoading, fake.encryption, fake.json, fake.installedApplications,
+                       fake.fileManager, fake.clock, fake.random},
+                      localization,
+                      fake.application,
+                      fake.workspace,
+                      fake.queues,
+                      fake.rateWindows,
+                      fake.alerts,
+                      fake.recommenderWindows,
+                      menus};
+  Service overReal{real, configuration()};
+  QWidget window;
+  QMenuBar* bar = nullptr;
+  QMenu* help = nullptr;
+};
+
+TEST_F(QtMenusTest, EveryItemCanBeChosen) {
+  makeController()->awakeFromNib();
+  QStringList names;
+  for (auto* action : help->actions()) {
+    names += action->isSeparator() ? "-" : action->objectName();
+    EXPECT_EQ(action->shortcut(),
+              names.size() == 1 ? QKeySequence(Qt::CTRL | Qt::Key_Question) : QKeySequence());
+    EXPECT_TRUE(action->icon().isNull());
+    action->trigger();
+  }
+  EXPECT_EQ(names.join(' ').toStdString(),
+            "openSupportWebPageAction - rateOnMacAppStoreAction - subscribeToNewsLetterAction "
+            "followOnTwitterAction moreAppsAction - openGeneralSupportAction - "
+            "openKVXWebPageAction");
+  EXPECT_EQ(fake.workspace.opened.size(), 5U);
+  EXPECT_EQ(fake.rateWindows.windows.size(), 1U);
+  EXPECT_EQ(fake.recommenderWindows.windows.size(), 1U);
+}
+
+TEST_F(QtMenusTest, TheKeyForHelpWorks) {
+  makeController()->awakeFromNib();
+  window.show();
+  window.activateWindow();
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  QTest::keyClick(window.windowHandle(), Qt::Key_Question, Qt::ControlModifier);
+  EXPECT_EQ(fake.workspace.opened.size(), 1U);
+}
+
+TEST_F(QtMenusTest, TheHostsOwnHelpIsRecognised) {
+  const struct {
+    const char* what;
+    std::function<void(QAction&)> mark;
+    bool recognised;
+  } rows[] = {
+      {"a title", [](QAction& action) { action.setText("Photo Tool Help"); }, false},
+      {"its name", [](QAction& action) { action.setObjectName("showHelp"); }, true},
+      {"its key", [](QAction& action) { action.setShortcut(QKeySequence::HelpContents); }, true},
+      {"a second key",
+       [](QAction& action) {
+         action.setShortcuts({Qt::CTRL | Qt::Key_H, Qt::Key_F1});
+       },
+       true},
+      {"another key", [](QAction& action) { action.setShortcut(QKeySequence::Open); }, false},
+      {"another name", [](QAction& action) { action.setObjectName("showhelp"); }, false},
+  };
+  for (const auto& row : rows) {
+    help->clear();
+    row.mark(*help->addAction("Manual"));
+    makeController()->awakeFromNib();
+    EXPECT_EQ(!item("openSupportWebPageAction"), row.recognised) << row.what;
+  }
+}
+
+TEST_F(QtMenusTest, OnlyTitlesChange) {
+  fake.mainBundle.info["CFBundleName"] = "Cut & Paste";
+  QPixmap pixels(1, 1);
+  pixels.fill(Qt::red);
+  auto* about = help->addAction(QIcon(pixels), "&About #app_name\u2026\tF9");
+  about->setEnabled(false);
+  about->setCheckable(true);
+  help->addSection("#app_name");
+  auto* embedded = new QWidgetAction(help);
+  embedded->setDefaultWidget(new QWidget);
+  help->addAction(embedded);
+  auto* deeper = help->addMenu("More of #app_name")->addAction("Deep in #app_name");
+  bar->addSeparator();
+  auto* plain = bar->addAction("#app_name");
+
+  makeController()->awakeFromNib();
+
+  EXPECT_EQ(about->text(), "&About Cut && Paste\u2026\tF9");
+  EXPECT_FALSE(about->isEnabled());
+  EXPECT_TRUE(about->isCheckable());
+  EXPECT_FALSE(about->icon().isNull());
+  EXPECT_EQ(help->actions().at(1)->text(), "Cut && Paste");
+  EXPECT_TRUE(help->actions().at(1)->isSeparator());
+  EXPECT_EQ(embedded->text(), "");
+  EXPECT_EQ(help->actions().at(3)->text(), "More of Cut && Paste");
+  EXPECT_EQ(deeper->text(), "Deep in #app_name");
+  EXPECT_EQ(plain->text(), "#app_name");
+  EXPECT_EQ(item("openSupportWebPageAction")->text(), "Cut && Paste Help");
+}
+
+TEST_F(QtMenusTest, MenusAndControllerGoInAnyOrder) {
+  auto controller = makeController();
+  controller->awakeFromNib();
+  controller.reset();
+  item("moreAppsAction")->trigger();
+  EXPECT_EQ(fake.workspace.opened.size(), 1U);
+
+  controller = makeController();
+  delete help;
+  controller->awakeFromNib();
+  delete bar;
+  controller->awakeFromNib();
+  EXPECT_THAT(window.children(), ElementsAre());
+}
+
+class OddTranslator final : public QTranslator {
+public:
+  bool isEmpty() const override { return false; }
+
+  QString translate(const char* context, const char* text, const char*, int) const override {
+    if (QLatin1String(context) == "InfoPlist") return "أداة الصور";
+    if (QLatin1String(text) == "Support") return "";
+    if (QLatin1String(text) == "Help") return "مساعدة(&H)";
+    return {};
+  }
+};
+
+TEST_F(QtMenusTest, AnEmptyTranslationIsNone) {
+  OddTranslator odd;
+  QCoreApplication::installTranslator(&odd);
+  makeController()->awakeFromNib();
+  QCoreApplication::removeTranslator(&odd);
+  EXPECT_EQ(item("openGeneralSupportAction")->text(), "Support");
+  EXPECT_EQ(item("openSupportWebPageAction")->text(), "أداة الصور مساعدة(&H)");
+}
+
+} // namespace
+} // namespace wrenvale::platform

@@ -1,0 +1,228 @@
+#include "RateWindowFixture.h"
+
+#include <cmath>
+#include <map>
+
+#include <QLabel>
+#include <QTranslator>
+
+#include "desktop/qt/rate/FaceDrawing.h"
+#include "desktop/qt/rate/KVXButton.h"
+
+namespace wrenvale::platform {
+namespace {
+
+// As WCAG defines them.
+double luminance(QColor color) {
+  const auto linear = [](double part) {
+    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+  };
+  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
+         0.0722 * linear(color.blueF());
+}
+
+double contrast(QColor one, QColor other) {
+  const double a = luminance(one) + 0.05;
+  const double b = luminance(other) + 0.05;
+  return std::max(a, b) / std::min(a, b);
+}
+
+// Between the surface, which is most of what is in the middle, and what differs most from it.
+double contrastOfText(const QWidget& widget) {
+  const QRect middle = widget.rect().adjusted(12, 6, -12, -6);
+  const QImage image =
+      widget.window()
+          ->grab(QRect(widget.mapTo(widget.window(), middle.topLeft()), middle.size()))
+          .toImage();
+  std::map<QRgb, int> counts;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      ++counts[image.pixel(x, y)];
+  const QRgb surface =
+      std::max_element(counts.begin(), counts.end(), [](const auto& a, const auto& b) {
+        return a.second < b.second;
+      })->first;
+  double most = 1;
+  for (const auto& [color, count] : counts)
+    most = std::max(most, contrast(color, surface));
+  return most;
+}
+
+class QtRateWindowLooksTest : public RateWindowFixture {
+protected:
+  QImage picture() { return widget()->grab().toImage(); }
+  QImage face() { return widget()->grab(outlet("imageView").geometry()).toImage(); }
+  void expectReadable(const char* circumstances) {
+    EXPECT_EQ(picture().pixelColor(3, 3), QColor(Qt::white)) << circumstances;
+    for (const auto view : {RateView::kRate, RateView::kAppstore, RateView::kContact}) {
+      window_->setView(view, false);
+      for (const auto* text : widget()->findChildren<QWidget*>()) {
+        if (!text->isVisible() || !(qobject_cast<const QLabel*>(text) || isButton(*text))) continue;
+        EXPECT_GE(contrastOfText(*text), 4.5)
+            << circumstances << ": " << text->objectName().toStdString();
+      }
+    }
+    window_->setView(RateView::kRate, false);
+  }
+  static bool isButton(const QWidget& widget) { return qobject_cast<const QPushButton*>(&widget); }
+};
+
+TEST_F(QtRateWindowLooksTest, EachMoodHasAFaceAndAMissingOneShowsNothing) {
+  open();
+  const QImage neutral = face();
+  window_->showImage(1);
+  const QImage dislike = face();
+  window_->showImage(2);
+  const QImage like = face();
+  EXPECT_TRUE(neutral != dislike && dislike != like && like != neutral);
+  EXPECT_EQ(outlet("imageView").accessibleName(), "Happy face");
+
+  window_->loadImage(5, "smile-5");
+  for (const int missing : {5, 77}) {
+    window_->showImage(missing);
+    const QImage blank = face();
+    QImage white = blank;
+    white.fill(Qt::white);
+    EXPECT_EQ(blank, white) << missing;
+    EXPECT_EQ(outlet("imageView").accessibleName(), "");
+  }
+}
+
+TEST(FaceDrawingTest, ReadsOnlyWhatIsADrawing) {
+  const std::pair<const char*, int> rows[] = {
+      {"", -1},
+      {"<svg viewBox='0 0 8 8'></svg>", -1},
+      {"<svg viewBox='0 0 8 8'><circle r='4'/>", -1},
+      {"<svg><circle r='4'/></svg>", -1},
+      {"<svg viewBox='0 0 8 8'><circle r='4'/><rect width='3'/></svg>", 1},
+      {"<svg viewBox='0 0 8 8'><g><path d='M 0 0 L 8,8 Q 1'/></g><ellipse rx='1' ry='2'/></svg>",
+       2},
+      {"<svg viewBox='0 0 8 8'><path d='M0-1L8 8'/><path d='x 1 2'/></svg>", 1},
+  };
+  for (const auto& [svg, shapes] : rows) {
+    const auto drawing = FaceDrawing::fromSVG(svg);
+    EXPECT_EQ(drawing ? static_cast<int>(drawing->shapes.size()) : -1, shapes) << svg;
+  }
+}
+
+TEST_F(QtRateWindowLooksTest, IsReadableWhateverTheHostLooksLike) {
+  open();
+  expectReadable("light");
+  const QPalette before = QApplication::palette();
+  QApplication::setPalette(QPalette(QColor(50, 50, 54), QColor(30, 30, 32)));
+  expectReadable("dark palette");
+  QApplication::setPalette(before);
+  qApp->setStyleSheet("* { background: #202020; color: #f0f0f0; padding: 9px; }");
+  expectReadable("dark style sheet");
+  qApp->setStyleSheet({});
+}
+
+TEST_F(QtRateWindowLooksTest, AStyleSheetOfTheHostsChangesNothing) {
+  QWidget parent;
+  openOver(parent);
+  const QImage without = picture();
+  for (const char* sheet :
+       {"QPushButton { min-width: 80px; text-decoration: underline; }",
+        "* { padding: 9px; font: bold 20pt; min-height: 50px; max-width: 90px; }",
+        "QLabel { background: red; } QWidget { border: 3px solid red; margin: 8px; }"}) {
+    qApp->setStyleSheet(sheet);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(picture(), without) << sheet;
+    qApp->setStyleSheet({});
+  }
+}
+
+TEST_F(QtRateWindowLooksTest, TextsGrowWithTheHostsFont) {
+  open();
+  const QFont usual = QApplication::font();
+  const QSize size = widget()->size();
+  QFont larger = usual;
+  for (const auto& [points, grows] : {std::pair{8.0, false}, {22.0, true}, {500.0, true}}) {
+    larger.setPointSizeF(points);
+    QApplication::setFont(larger);
+    QCoreApplication::sendPostedEvents();
+    EXPECT_EQ(widget()->height() > size.height() + 100, grows) << points;
+    EXPECT_LT(widget()->height(), 2 * size.height()) << points;
+  }
+  QApplication::setFont(usual);
+}
+
+TEST_F(QtRateWindowLooksTest, ItsBorderIsEvenAtEveryScale) {
+  QWidget parent;
+  openOver(parent);
+  for (const double scale : {1.0, 1.5, 2.0}) {
+    QImage image((QSizeF(widget()->size()) * scale).toSize(), QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale);
+    widget()->render(&image);
+    const QSize last = image.size() - QSize(1, 1);
+    for (int inside = 0; inside < 4; ++inside) {
+      const QRgb left = image.pixel(inside, last.height() / 2);
+      EXPECT_EQ(left, image.pixel(last.width() - inside, last.height() / 2)) << scale;
+      EXPECT_EQ(left, image.pixel(last.width() / 3, inside)) << scale;
+      EXPECT_EQ(left, image.pixel(last.width() / 3, last.height() - inside)) << scale;
+    }
+    EXPECT_NE(image.pixel(0, 9), image.pixel(4, 9)) << scale;
+  }
+}
+
+TEST_F(QtRateWindowLooksTest, EveryStateOfAButtonIsReadableAndDifferent) {
+  const std::pair<const char*, std::function<void(QPushButton&)>> states[] = {
+      {"hover", [](QPushButton& button) { button.setAttribute(Qt::WA_UnderMouse); }},
+      {"pressed", [](QPushButton& button) { button.setDown(true); }},
+      {"focus", [](QPushButton& button) { button.setFocus(Qt::TabFocusReason); }},
+      {"disabled", [](QPushButton& button) { button.setEnabled(false); }},
+  };
+  open();
+  for (const char* name : {"likeButton", "dislikeButton"}) {
+    auto& button = static_cast<QPushButton&>(outlet(name));
+    const QImage normal = button.grab().toImage();
+    for (const auto& [state, enter] : states) {
+      enter(button);
+      EXPECT_NE(button.grab().toImage(), normal) << name << ' ' << state;
+      EXPECT_GE(contrastOfText(button), 4.5) << name << ' ' << state;
+      button.setAttribute(Qt::WA_UnderMouse, false);
+      button.setDown(false);
+      button.setEnabled(true);
+      widget()->setFocus();
+    }
+  }
+}
+
+// A language that says everything three times.
+class LongTranslator final : public QTranslator {
+public:
+  bool isEmpty() const override { return false; }
+  QString translate(const char* context, const char* source, const char*, int) const override {
+    return QLatin1String(context) == "Wrenvale" ? QString(source + QLatin1Char(' ')).repeated(3)
+                                                : "";
+  }
+};
+
+TEST_F(QtRateWindowLooksTest, GrowsWithItsTexts) {
+  LongTranslator translator;
+  QWidget parent;
+  openOver(parent);
+  const QSize english = widget()->size();
+  QCoreApplication::installTranslator(&translator);
+  QCoreApplication::sendPostedEvents();
+  QTest::qWait(0);
+  EXPECT_GT(widget()->width(), english.width());
+  EXPECT_EQ(widget()->windowTitle().trimmed(), "Rate Photo Tool Rate Photo Tool Rate Photo Tool");
+  for (const auto view : {RateView::kRate, RateView::kAppstore, RateView::kContact}) {
+    window_->setView(view, false);
+    for (const auto* text : widget()->findChildren<QWidget*>()) {
+      if (!text->isVisible()) continue;
+      const std::string name = text->objectName().toStdString();
+      if (isButton(*text)) {
+        EXPECT_GE(text->width(), text->sizeHint().width()) << name;
+      }
+      if (qobject_cast<const QLabel*>(text)) {
+        EXPECT_GE(text->height(), text->heightForWidth(text->width())) << name;
+      }
+    }
+  }
+  QCoreApplication::removeTranslator(&translator);
+}
+
+} // namespace
+} // namespace wrenvale::platform
