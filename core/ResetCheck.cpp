@@ -34,7 +34,7 @@ void Service::checkReset() {
   _setUserAgent(request);
   auto body = _platform.urlLoading.sendSynchronousRequest(request);
   if (!body) return;
-  const auto document = _platform.json.JSONObjectWithData(std::move(*body)).object;
+  const auto document = _platform.json.JSONObjectWithData(std::move(*body));
   if (!document) return;
   applyReset(resetOutcome(*document, state));
 }

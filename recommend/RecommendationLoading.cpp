@@ -21,7 +21,7 @@ std::optional<RecommendationList> Service::_getRecommendations() const {
     _setUserAgent(request);
     auto body = _platform.urlLoading.sendSynchronousRequest(request);
     if (!body) return std::nullopt;
-    auto document = _platform.json.JSONObjectWithData(std::move(*body)).object;
+    auto document = _platform.json.JSONObjectWithData(std::move(*body));
     if (!document) return std::nullopt;
     const recommend::Context context{
         .iconBase = _endpoints.icon(""),

@@ -39,8 +39,8 @@ std::size_t framework(std::string text) {
                                    .purchases = [] { return Value(); },
                                    .random = random};
   auto parsed = platform::JSONReader().JSONObjectWithData(std::move(text));
-  if (!parsed.object) return 0;
-  const recommend::RecommenderDocument document(std::move(*parsed.object));
+  if (!parsed) return 0;
+  const recommend::RecommenderDocument document(std::move(*parsed));
   const auto list = recommend::recommendations(document, context);
   return list ? list->size() : 0;
 }

@@ -54,10 +54,10 @@ ImportedKey FakeEncryption::importPublicKey(std::string_view pem) {
   return {.status = 0, .key = std::make_unique<FakePublicKey>(longest)};
 }
 
-JSONResult FakeJSON::JSONObjectWithData(std::string data) {
+std::optional<Value> FakeJSON::JSONObjectWithData(std::string data) {
   const auto found = documents.find(data);
-  if (found == documents.end()) return {.object = {}, .error = "not filed with the fake"};
-  return {.object = found->second, .error = {}};
+  if (found == documents.end()) return std::nullopt;
+  return found->second;
 }
 
 std::optional<std::string> FakeInstalledApplications::URLForApplicationWithBundleIdentifier(

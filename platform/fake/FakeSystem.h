@@ -101,7 +101,7 @@ public:
 /// Knows the documents that the test filed under their text; any other text is no document.
 class FakeJSON : public JSONSerialization {
 public:
-  JSONResult JSONObjectWithData(std::string data) override;
+  std::optional<Value> JSONObjectWithData(std::string data) override;
 
   std::map<std::string, Value> documents;
 };

@@ -17,9 +17,9 @@
 namespace wrenvale::recommend {
 
 inline Value json(std::string_view text) {
-  const auto result = platform::JSONReader().JSONObjectWithData(std::string(text));
-  EXPECT_TRUE(result.object) << text << "\n" << result.error;
-  return result.object.value_or(Value());
+  const auto document = platform::JSONReader().JSONObjectWithData(std::string(text));
+  EXPECT_TRUE(document) << text;
+  return document.value_or(Value());
 }
 
 class RecommendTest : public testing::Test {

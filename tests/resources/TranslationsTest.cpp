@@ -69,8 +69,6 @@ Texts lookedUp() {
       addLookedUpIn(file, texts);
   for (const auto& file : filesIn("resources", {"*.ui"}))
     addElementsOf(file, u"string", texts);
-  for (const auto& file : filesIn("resources", {"*.svg"}))
-    addElementsOf(file, u"title", texts);
   // What goes between the literals of a look-up, and the context's name.
   for (const char* other : {" ", "!", "Wrenvale", "(null)", "?", ""})
     texts.erase(other);

@@ -8,8 +8,8 @@
 #include "tests/desktop/linux/TemporaryFolder.h"
 #include "tests/tools/KitRun.h"
 #include "tools/wrenvale/check/Check.h"
-#include "tools/wrenvale/check/JSONPlaces.h"
 #include "tools/wrenvale/check/SiteFiles.h"
+#include "tools/wrenvale/json/JSONPlaces.h"
 
 namespace wrenvale::kit {
 namespace {
@@ -45,7 +45,7 @@ TEST(Check, SaysWhatIsWrongAndWhere) {
   } rows[] = {
       {"/x.json", "\xEF\xBB\xBF[]", {}},
       {"/x.json", app(R"(, "priority_score": "-7", "dependency": [{"bundle_id": "com.a"}])"), {}},
-      {"/x.json", "{\"a\":\n [}", {"2:3: error: a value is missing"}},
+      {"/x.json", "{\"a\":\n [}", {"2:3: error: unexpected '}'; expected '[', '{', or a literal"}},
       {"/x.json",
        "{}",
        {"1:1: error: \"options\" is missing", "1:1: error: \"apps\" is missing",
@@ -114,10 +114,10 @@ std::string times(std::size_t count, const std::string& text) {
 TEST(Check, GetsToTheEndOfEverything) {
   const TemporaryFolder folder;
   const std::pair<std::string, const char*> rows[] = {
-      {"", ":1:1: error: the text ends too early"},
+      {"", ":1:1: error: unexpected end of input"},
       {std::string(100, '\0'), ":1:1: error: "},
-      {"{\"a\": \"\xFF\"}", ":1:8: error: the text is not UTF-8"},
-      {std::string(3'000'000, '['), ":1:513: error: nested too deeply"},
+      {"{\"a\": \"\xFF\"}", ":1:8: error: invalid string: ill-formed UTF-8 byte"},
+      {std::string(3'000'000, '['), ":1:514: error: nested too deeply"},
       {times(3'000'000, "{\"a\":"), "error: nested too deeply"},
       {"[" + std::string(3'000'000, '9') + "]", ":1:2: error: a number is too large"},
       {std::string(17'000'000, ' '), "bad.json: error: hosts take no more than 16 MiB"},

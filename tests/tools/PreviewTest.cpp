@@ -1,10 +1,10 @@
 #include <gmock/gmock.h>
 
-#include "desktop/net/json/JSONReader.h"
 #include "tests/desktop/linux/TemporaryFolder.h"
 #include "tests/tools/KitRun.h"
-#include "tools/wrenvale/check/JSONText.h"
 #include "tools/wrenvale/check/SiteFiles.h"
+#include "tools/wrenvale/json/JSONDocument.h"
+#include "tools/wrenvale/json/JSONText.h"
 #include "tools/wrenvale/preview/Preview.h"
 
 namespace wrenvale::kit {
@@ -13,7 +13,7 @@ namespace {
 using testing::HasSubstr;
 
 Value json(const std::string& text) {
-  return platform::JSONReader().JSONObjectWithData(text).object.value_or(Value());
+  return readJSON(text).value.value_or(Value());
 }
 
 PreviewRequest requestOf(std::int64_t build) {

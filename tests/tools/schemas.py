@@ -15,7 +15,7 @@ from jsonschema import Draft202012Validator
 
 KIT, SCHEMAS, SITE = sys.argv[1:]
 STORE = pathlib.Path(SITE, "store")
-VALUES = [None, True, False, 17, -17, 17.0, 1.5, 10**30, "", "17", "-17", "com.example.new", "a b",
+VALUES = [None, True, False, 17, -17, 17.0, 1.5, 10**19, "", "17", "-17", "com.example.new", "a b",
           "https://a.example/b", "auto", [], {}, [17], {"bundle_id": "com.example.new"}]
 
 

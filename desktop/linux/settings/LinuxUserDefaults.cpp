@@ -6,6 +6,7 @@
 #include <csignal>
 #include <pthread.h>
 
+#include "desktop/BlockedSignals.h"
 #include "desktop/linux/plist/PropertyList.h"
 
 namespace wrenvale::platform {
@@ -18,22 +19,6 @@ using Clock = std::chrono::steady_clock;
 constexpr std::chrono::milliseconds kGatherTime(50);
 constexpr std::chrono::seconds kPatience(10);
 constexpr std::chrono::seconds kPatienceAtExit(3);
-
-// The host's signal handlers must not run on a thread that it does not know of.
-class SignalsBlocked {
-public:
-  SignalsBlocked() {
-    sigset_t all;
-    sigfillset(&all);
-    pthread_sigmask(SIG_SETMASK, &all, &before_);
-  }
-  ~SignalsBlocked() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
-  SignalsBlocked(const SignalsBlocked&) = delete;
-  SignalsBlocked& operator=(const SignalsBlocked&) = delete;
-
-private:
-  sigset_t before_;
-};
 
 std::optional<DefaultsFile> fileAt(const std::filesystem::path& path) {
   return path.empty() ? std::nullopt : std::optional<DefaultsFile>(path.native());
@@ -124,7 +109,7 @@ void LinuxUserDefaults::removeObserver(ObserverID id) {
 // Locked. A system without a thread to spare writes with the next change or at the end.
 void LinuxUserDefaults::startWriter() {
   if (!file_ || isWriterRunning_) return;
-  const SignalsBlocked signalsBlocked;
+  const BlockedSignals signalsBlocked;
   try {
     std::thread([this] { writeInBackground(); }).detach();
     isWriterRunning_ = true;

@@ -37,9 +37,9 @@ ImportedKey NetModuleLoader::importPublicKey(std::string_view pem) {
   return net ? net->encryption.importPublicKey(pem) : ImportedKey();
 }
 
-JSONResult NetModuleLoader::JSONObjectWithData(std::string data) {
+std::optional<Value> NetModuleLoader::JSONObjectWithData(std::string data) {
   if (const auto* net = module()) return net->json.JSONObjectWithData(std::move(data));
-  return {.object = std::nullopt, .error = "the net module is not installed"};
+  return std::nullopt;
 }
 
 } // namespace wrenvale::platform

@@ -28,7 +28,7 @@ public:
   /// Loads nothing: without the module no request is under way, and later ones do not load it.
   void cancelAllRequests() override;
   ImportedKey importPublicKey(std::string_view pem) override;
-  JSONResult JSONObjectWithData(std::string data) override;
+  std::optional<Value> JSONObjectWithData(std::string data) override;
 
 private:
   const NetModule* module();

@@ -1,33 +1,14 @@
 #include "desktop/qt/app/BackgroundThreads.h"
 
-#include <csignal>
 #include <system_error>
 #include <thread>
 #include <utility>
 
 #include <pthread.h>
 
+#include "desktop/BlockedSignals.h"
+
 namespace wrenvale::platform {
-
-namespace {
-
-// A thread inherits the signal mask of its creator.
-class BlockedSignals {
-public:
-  BlockedSignals() {
-    sigset_t all;
-    sigfillset(&all);
-    pthread_sigmask(SIG_SETMASK, &all, &before_);
-  }
-  ~BlockedSignals() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
-  BlockedSignals(const BlockedSignals&) = delete;
-  BlockedSignals& operator=(const BlockedSignals&) = delete;
-
-private:
-  sigset_t before_;
-};
-
-} // namespace
 
 bool BackgroundThreads::run(Queue::Task task) {
   if (!begin()) return false;

@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 
+#include <unistd.h>
+
 #include <QCoreApplication>
 
 namespace wrenvale::platform {
@@ -10,11 +12,13 @@ namespace {
 
 constexpr std::chrono::milliseconds kPatienceAtExit{80};
 
-// What the handlers of the process's end, plain functions, are to end.
+// What the handlers of the process's end, plain functions, are to end. A forked child has nothing
+// to end: the threads are its parent's.
 QtQueues* started = nullptr;
+pid_t startedBy = 0;
 
 void endStarted() {
-  started->end();
+  if (getpid() == startedBy) started->end();
 }
 
 } // namespace
@@ -25,6 +29,7 @@ std::unique_ptr<Queue> QtQueues::makeSerialQueue() {
 
 void QtQueues::start() {
   started = this;
+  startedBy = getpid();
   qAddPostRoutine(endStarted); // as a rule, the application object goes before the process
   std::atexit(endStarted);     // a host may exit without
   mainQueue_.open();

@@ -12,7 +12,7 @@
 namespace wrenvale::platform {
 
 /// Lives until the process ends. When the host's application object goes, or the process exits, no
-/// further task begins and downloads under way are given up; that holds the exit up by 100 ms at
+/// further task begins and downloads under way are given up; what runs is waited for, 80 ms at
 /// the most.
 class QtQueues : public Queues {
 public:

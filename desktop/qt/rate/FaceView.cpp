@@ -6,15 +6,20 @@
 
 namespace wrenvale::platform {
 
-void FaceView::setFace(const std::optional<FaceDrawing>& face) {
+void FaceView::setFace(const std::optional<Face>& face) {
   face_ = face;
   setAccessibleName(face ? translated(face->title.toUtf8().constData()) : QString());
   update();
 }
 
 void FaceView::paintEvent(QPaintEvent*) {
+  if (!face_) return;
   QPainter painter(this);
-  if (face_) face_->paint(painter, rect());
+  const qreal scale = painter.deviceTransform().m11();
+  auto picture = face_->picture.scaled((QSizeF(size()) * scale).toSize(), Qt::KeepAspectRatio,
+                                       Qt::SmoothTransformation);
+  picture.setDevicePixelRatio(scale);
+  painter.drawPixmap(QPointF(0, 0), picture);
 }
 
 } // namespace wrenvale::platform

@@ -7,7 +7,7 @@
 
 #include <QWidget>
 
-#include "desktop/qt/rate/FaceDrawing.h"
+#include "desktop/qt/rate/Face.h"
 
 namespace wrenvale::platform {
 
@@ -17,14 +17,14 @@ class FaceView : public QWidget {
 public:
   using QWidget::QWidget;
 
-  void setFace(const std::optional<FaceDrawing>& face);
+  void setFace(const std::optional<Face>& face);
   QSize sizeHint() const override { return {132, 132}; }
 
 protected:
   void paintEvent(QPaintEvent* event) override;
 
 private:
-  std::optional<FaceDrawing> face_;
+  std::optional<Face> face_;
 };
 
 } // namespace wrenvale::platform

@@ -32,7 +32,7 @@ public:
   void runModal();
   void abortModal();
 
-  std::map<std::int64_t, FaceDrawing> images;
+  std::map<std::int64_t, Face> images;
   std::map<RateButton, std::int64_t> trackingAreas;
 
 private:

@@ -23,8 +23,8 @@ struct StatusFive : Encryption {
 };
 
 struct Echo : JSONSerialization {
-  JSONResult JSONObjectWithData(std::string data) override {
-    return {.object = Value(std::move(data)), .error = ""};
+  std::optional<Value> JSONObjectWithData(std::string data) override {
+    return Value(std::move(data));
   }
 };
 

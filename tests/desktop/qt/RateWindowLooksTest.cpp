@@ -6,7 +6,6 @@
 #include <QLabel>
 #include <QTranslator>
 
-#include "desktop/qt/rate/FaceDrawing.h"
 #include "desktop/qt/rate/KVXButton.h"
 
 namespace wrenvale::platform {
@@ -85,23 +84,6 @@ TEST_F(QtRateWindowLooksTest, EachMoodHasAFaceAndAMissingOneShowsNothing) {
     white.fill(Qt::white);
     EXPECT_EQ(blank, white) << missing;
     EXPECT_EQ(outlet("imageView").accessibleName(), "");
-  }
-}
-
-TEST(FaceDrawingTest, ReadsOnlyWhatIsADrawing) {
-  const std::pair<const char*, int> rows[] = {
-      {"", -1},
-      {"<svg viewBox='0 0 8 8'></svg>", -1},
-      {"<svg viewBox='0 0 8 8'><circle r='4'/>", -1},
-      {"<svg><circle r='4'/></svg>", -1},
-      {"<svg viewBox='0 0 8 8'><circle r='4'/><rect width='3'/></svg>", 1},
-      {"<svg viewBox='0 0 8 8'><g><path d='M 0 0 L 8,8 Q 1'/></g><ellipse rx='1' ry='2'/></svg>",
-       2},
-      {"<svg viewBox='0 0 8 8'><path d='M0-1L8 8'/><path d='x 1 2'/></svg>", 1},
-  };
-  for (const auto& [svg, shapes] : rows) {
-    const auto drawing = FaceDrawing::fromSVG(svg);
-    EXPECT_EQ(drawing ? static_cast<int>(drawing->shapes.size()) : -1, shapes) << svg;
   }
 }
 

@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <set>
 
-#include "desktop/net/json/JSONReader.h"
 #include "recommend/RecommenderDocument.h"
 #include "tools/wrenvale/check/DocumentSense.h"
-#include "tools/wrenvale/check/JSONPlaces.h"
 #include "tools/wrenvale/check/JSONSchema.h"
-#include "tools/wrenvale/check/JSONText.h"
 #include "tools/wrenvale/check/SiteFiles.h"
+#include "tools/wrenvale/json/JSONDocument.h"
+#include "tools/wrenvale/json/JSONPlaces.h"
+#include "tools/wrenvale/json/JSONText.h"
 
 extern "C" {
 extern const unsigned char wrenvale_recommender_schema[];
@@ -38,9 +38,7 @@ struct Document {
 };
 
 Value parsed(const unsigned char* schema, unsigned long size) {
-  return platform::JSONReader()
-      .JSONObjectWithData({reinterpret_cast<const char*>(schema), size})
-      .object.value_or(Value());
+  return readJSON({reinterpret_cast<const char*>(schema), size}).value.value_or(Value());
 }
 
 bool isReset(const Document& document) {
@@ -63,9 +61,9 @@ std::optional<Document> read(const fs::path& file, CheckReport& report) {
     return std::nullopt;
   }
   Document document{.file = file, .text = *text, .value = {}};
-  const auto result = platform::JSONReader().JSONObjectWithData(*text);
-  if (result.object) {
-    document.value = *result.object;
+  const auto result = readJSON(*text);
+  if (result.value) {
+    document.value = *result.value;
     return document;
   }
   const auto place = TextPlaces(*text).placeOf(result.errorOffset);

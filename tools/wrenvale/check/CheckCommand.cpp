@@ -9,7 +9,7 @@
 
 #include "tools/wrenvale/Commands.h"
 #include "tools/wrenvale/check/Check.h"
-#include "tools/wrenvale/check/JSONText.h"
+#include "tools/wrenvale/json/JSONText.h"
 
 namespace wrenvale::kit {
 

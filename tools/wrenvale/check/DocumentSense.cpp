@@ -4,7 +4,7 @@
 #include <map>
 
 #include "recommend/RecommenderDocument.h"
-#include "tools/wrenvale/check/JSONPlaces.h"
+#include "tools/wrenvale/json/JSONPlaces.h"
 
 namespace wrenvale::kit {
 

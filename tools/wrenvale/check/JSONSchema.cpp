@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "tools/wrenvale/check/JSONPlaces.h"
+#include "tools/wrenvale/json/JSONPlaces.h"
 
 namespace wrenvale::kit {
 

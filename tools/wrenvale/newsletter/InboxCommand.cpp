@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "tools/wrenvale/Commands.h"
-#include "tools/wrenvale/check/JSONText.h"
+#include "tools/wrenvale/json/JSONText.h"
 #include "tools/wrenvale/newsletter/Inbox.h"
 
 namespace wrenvale::kit {

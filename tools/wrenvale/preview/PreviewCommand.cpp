@@ -10,10 +10,10 @@
 #include <string>
 #include <string_view>
 
-#include "desktop/net/json/JSONReader.h"
 #include "tools/wrenvale/Commands.h"
-#include "tools/wrenvale/check/JSONText.h"
 #include "tools/wrenvale/check/SiteFiles.h"
+#include "tools/wrenvale/json/JSONDocument.h"
+#include "tools/wrenvale/json/JSONText.h"
 #include "tools/wrenvale/preview/Preview.h"
 
 namespace wrenvale::kit {
@@ -124,14 +124,14 @@ std::optional<Arguments> parsed(int argc, char** argv) {
 int printPreview(const Arguments& arguments) {
   const auto text = contentsOf(arguments.document);
   if (!text) return complain("cannot read " + arguments.document, kFailed);
-  const auto parsed = platform::JSONReader().JSONObjectWithData(*text);
-  if (!parsed.object) {
+  const auto parsed = readJSON(*text);
+  if (!parsed.value) {
     const auto place = TextPlaces(*text).placeOf(parsed.errorOffset);
     return complain(arguments.document + ":" + std::to_string(place.line) + ":" +
                         std::to_string(place.column) + ": " + parsed.error,
                     kFailed);
   }
-  const auto preview = previewOf(*parsed.object, arguments.request);
+  const auto preview = previewOf(*parsed.value, arguments.request);
   std::fputs((arguments.json ? asJSON(preview) : asText(preview)).c_str(), stdout);
   return std::fflush(stdout) == 0 ? kDone : complain("cannot write", kFailed);
 }

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "tools/wrenvale/check/JSONText.h"
+#include "tools/wrenvale/json/JSONText.h"
 #include "tools/wrenvale/preview/Preview.h"
 
 namespace wrenvale::kit {

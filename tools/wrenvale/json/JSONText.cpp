@@ -1,4 +1,4 @@
-#include "tools/wrenvale/check/JSONText.h"
+#include "tools/wrenvale/json/JSONText.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -1,7 +1,7 @@
 // Text from documents, as JSON and as a terminal may show it.
 
-#ifndef WRENVALE_TOOLS_WRENVALE_CHECK_JSONTEXT_H
-#define WRENVALE_TOOLS_WRENVALE_CHECK_JSONTEXT_H
+#ifndef WRENVALE_TOOLS_WRENVALE_JSON_JSONTEXT_H
+#define WRENVALE_TOOLS_WRENVALE_JSON_JSONTEXT_H
 
 #include <cstddef>
 #include <string>

@@ -1,7 +1,7 @@
 // Where the values of a JSON document stand in its text.
 
-#ifndef WRENVALE_TOOLS_WRENVALE_CHECK_JSONPLACES_H
-#define WRENVALE_TOOLS_WRENVALE_CHECK_JSONPLACES_H
+#ifndef WRENVALE_TOOLS_WRENVALE_JSON_JSONPLACES_H
+#define WRENVALE_TOOLS_WRENVALE_JSON_JSONPLACES_H
 
 #include <cstddef>
 #include <string>
@@ -18,7 +18,7 @@ std::string childOf(const std::string& pointer, std::size_t index);
 /// Finds some values by their JSON Pointers ("" is the whole document), and all repeated keys.
 class JSONPlaces {
 public:
-  /// Goes once over a text that is a document to platform::JSONReader.
+  /// Goes once over a text that readJSON() takes.
   JSONPlaces(std::string_view text, const std::vector<std::string>& pointers);
 
   /// The byte where the value begins, or the key in front of it when it has one. Of a key that
