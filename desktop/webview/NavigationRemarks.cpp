@@ -1,5 +1,7 @@
 #include "desktop/webview/NavigationRemarks.h"
 
+#include "desktop/QtText.h"
+
 extern "C" {
 extern const unsigned char wrenvale_manners[];
 extern const unsigned long wrenvale_manners_size;
@@ -14,10 +16,6 @@ namespace {
 // A remark that no navigation followed, such as of a link whose click the page handled itself, is
 // not about one that comes later.
 constexpr qint64 kLifetime = 1000; // milliseconds
-
-QString fromUTF8(const unsigned char* bytes, unsigned long size) {
-  return QString::fromUtf8(reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(size));
-}
 
 NavigationType typeNamed(QStringView word) {
   if (word == QLatin1String("reload")) return NavigationType::kReload;

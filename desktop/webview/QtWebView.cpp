@@ -7,6 +7,7 @@
 #include <QWebEngineUrlRequestInfo>
 #include <QWebEngineUrlRequestInterceptor>
 
+#include "desktop/QtText.h"
 #include "desktop/webview/EngineEnd.h"
 
 namespace wrenvale::platform {
@@ -94,10 +95,6 @@ QWebEngineProfile* makeProfile() {
   profile->setSpellCheckEnabled(false);
   profile->setUrlRequestInterceptor(new OnlyTheWeb(profile));
   return profile;
-}
-
-QString fromUTF8(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
 }
 
 } // namespace

@@ -7,6 +7,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include "desktop/QtText.h"
+
 extern "C" {
 extern const unsigned char wrenvale_script_object[];
 extern const unsigned long wrenvale_script_object_size;
@@ -19,10 +21,6 @@ namespace {
 constexpr int kLongestPiece = 10'000;          // the engine cuts prompts off at 10,240
 constexpr qsizetype kLongestCall = 64'000'000; // characters
 constexpr double kIntegersEnd = 9.223372036854775808e18;
-
-QString fromUTF8(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 QString compact(const QJsonArray& array) {
   return QString::fromUtf8(QJsonDocument(array).toJson(QJsonDocument::Compact));
@@ -53,8 +51,8 @@ QJsonValue jsonFrom(const Value& value) {
 } // namespace
 
 QString ScriptObject::source() const {
-  const auto* code = reinterpret_cast<const char*>(wrenvale_script_object);
-  return fromUTF8({code, wrenvale_script_object_size}).trimmed() + "(\"" + secret_ + "\");";
+  return fromUTF8(wrenvale_script_object, wrenvale_script_object_size).trimmed() + "(\"" + secret_ +
+         "\");";
 }
 
 void ScriptObject::clear() {

@@ -2,8 +2,8 @@
 
 #include <charconv>
 
+#include "base/UTF8.h"
 #include "desktop/linux/system/Text.h"
-#include "desktop/linux/system/Unicode.h"
 
 namespace wrenvale::platform {
 

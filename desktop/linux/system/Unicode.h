@@ -1,4 +1,4 @@
-// UTF-8, and the UTF-16 (most significant byte first) of binary property lists.
+// The UTF-16 (most significant byte first) of binary property lists.
 
 #ifndef WRENVALE_DESKTOP_LINUX_SYSTEM_UNICODE_H
 #define WRENVALE_DESKTOP_LINUX_SYSTEM_UNICODE_H
@@ -10,13 +10,6 @@
 namespace wrenvale::platform {
 
 bool isASCII(std::string_view text);
-
-/// `character` is a Unicode scalar value.
-void appendUTF8(std::string& out, char32_t character);
-
-constexpr bool isSurrogate(char32_t c) {
-  return c >= 0xD800 && c <= 0xDFFF;
-}
 
 /// Nothing when `text` is not well-formed UTF-8.
 std::optional<std::string> utf16FromUTF8(std::string_view text);

@@ -52,8 +52,4 @@ QString translated(const char* english) {
   return translated("Wrenvale", english);
 }
 
-QString fromUTF8(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 } // namespace wrenvale::platform

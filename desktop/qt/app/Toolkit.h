@@ -3,9 +3,9 @@
 #ifndef WRENVALE_DESKTOP_QT_APP_TOOLKIT_H
 #define WRENVALE_DESKTOP_QT_APP_TOOLKIT_H
 
-#include <string_view>
-
 #include <QString>
+
+#include "desktop/QtText.h"
 
 class QWidget;
 
@@ -31,9 +31,6 @@ QString translated(const char* english);
 inline QString layoutText(const char* english, const char*) {
   return translated(english);
 }
-
-/// UTF-8 text; invalid bytes become replacement characters.
-QString fromUTF8(std::string_view text);
 
 } // namespace wrenvale::platform
 

@@ -15,18 +15,19 @@ namespace wrenvale::platform {
 
 namespace {
 
+constexpr const char* kTitles[] = {QT_TRANSLATE_NOOP("Wrenvale", "Neutral face"),
+                                   QT_TRANSLATE_NOOP("Wrenvale", "Unhappy face"),
+                                   QT_TRANSLATE_NOOP("Wrenvale", "Happy face")};
+
 const struct {
   std::string_view name;
   const char* title;
   const unsigned char* png;
   const unsigned long& size;
 } kFaces[] = {
-    {"smile-0", QT_TRANSLATE_NOOP("Wrenvale", "Neutral face"), wrenvale_smile_0,
-     wrenvale_smile_0_size},
-    {"smile-1", QT_TRANSLATE_NOOP("Wrenvale", "Unhappy face"), wrenvale_smile_1,
-     wrenvale_smile_1_size},
-    {"smile-2", QT_TRANSLATE_NOOP("Wrenvale", "Happy face"), wrenvale_smile_2,
-     wrenvale_smile_2_size},
+    {"smile-0", kTitles[0], wrenvale_smile_0, wrenvale_smile_0_size},
+    {"smile-1", kTitles[1], wrenvale_smile_1, wrenvale_smile_1_size},
+    {"smile-2", kTitles[2], wrenvale_smile_2, wrenvale_smile_2_size},
 };
 
 } // namespace
