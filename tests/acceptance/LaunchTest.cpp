@@ -49,14 +49,11 @@ std::string nested(std::size_t depth) {
 
 TEST(Launch, NothingThatAServerSendsHarmsTheHost) {
   const std::pair<const char*, std::string> bodies[] = {
-      {"empty", ""},
       {"web page", "<!DOCTYPE html><html><body>Sorry</body></html>"},
       {"cut off", std::string(kAutomatic).substr(0, 40)},
       {"100 MB", "[\"" + std::string(100U << 20U, 'x') + "\"]"},
       {"nested three million deep", nested(3'000'000)},
       {"not UTF-8", "[\"\xFF\xFE\"]"},
-      {"object", R"({"bundle_id": "com.example.phototool", "reset_mode": "auto"})"},
-      {"number", "5"},
       {"odd entries", R"([null, 5, "x", [], {"bundle_id": ["com.example.phototool"],
           "reset_mode": "auto"}, {"bundle_id": "com.example.phototool", "reset_mode": ["auto"]}])"},
   };
@@ -78,7 +75,7 @@ TEST(Launch, ADownloadInFlightDoesNotHoldTheExitUp) {
   const auto timeAgainst = [](const VendorServer&) {
     const Home home;
     auto best = std::chrono::milliseconds::max();
-    for (int i = 0; i < 5; ++i) {
+    for (int i = 0; i < 3; ++i) {
       const auto run = launch(home, PHOTO_TOOL);
       EXPECT_EQ(run.status, 0) << run.errors;
       best = std::min(best, run.time);
