@@ -13,8 +13,8 @@ constexpr bool isSurrogate(char32_t c) {
   return c >= 0xD800 && c <= 0xDFFF;
 }
 
-/// Takes one character off the front of a text that is not empty. Where the text is not well-formed:
-/// nothing, and one byte is taken.
+/// Takes one character off the front of a text that is not empty. Where the text is not
+/// well-formed: nothing, and one byte is taken.
 std::optional<char32_t> takeUTF8(std::string_view& text);
 
 /// `character` is a Unicode scalar value.
