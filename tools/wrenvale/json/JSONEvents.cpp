@@ -58,6 +58,8 @@ std::optional<JSONFault> JSONEvents::read(std::string_view text) {
   taken_ = end_ = mark;
   depth_ = 0;
   fault_.reset();
+  // Of no text at all, each release of the parser says something else.
+  if (mark == text.size()) return JSONFault{"unexpected end of input", mark};
   nlohmann::json_sax<nlohmann::json>* events = this;
   nlohmann::json::sax_parse(Bytes(text.data() + mark, taken_),
                             Bytes(text.data() + text.size(), taken_), events);
