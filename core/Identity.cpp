@@ -1,7 +1,7 @@
 #include "core/Identity.h"
 
-#include "platform/Locale.h"
-#include "platform/MainBundle.h"
+#include "platform/Application.h"
+#include "platform/System.h"
 
 namespace wrenvale {
 
@@ -12,16 +12,20 @@ constexpr const char* kFallback = "EN";
 
 std::string languageOrFallback(const platform::Locale& locale) {
   const auto languages = locale.preferredLanguages();
-  if (!languages.empty()) return languages.front();
-  return locale.languageCode().value_or(kFallback);
+  return languages.empty() ? kFallback : languages.front();
 }
 
 } // namespace
 
-std::optional<std::string> localizedName(const platform::MainBundle& bundle,
-                                         const platform::Localization& localization) {
-  auto name = localization.localizedInfoString(info::kName);
-  return name ? name : stringValue(bundle.objectForInfoDictionaryKey(info::kName));
+Value infoValue(const Value::Dictionary& info, std::string_view key) {
+  const auto found = info.find(key);
+  return found == info.end() ? Value() : found->second;
+}
+
+std::optional<std::string> localizedName(const Value::Dictionary& info,
+                                         const platform::Application& application) {
+  auto name = application.localizedString(info::kName, "InfoPlist");
+  return name ? name : stringValue(infoValue(info, info::kName));
 }
 
 std::optional<std::string> appstoreIDFromInfo(const Value& value) {

@@ -12,9 +12,8 @@
 namespace wrenvale {
 
 namespace platform {
+class Application;
 class Locale;
-class Localization;
-class MainBundle;
 } // namespace platform
 
 namespace info {
@@ -24,9 +23,13 @@ inline constexpr std::string_view kName = "CFBundleName";
 inline constexpr std::string_view kAppstoreID = "Appstore ID";
 } // namespace info
 
+/// The value under `key` in the host's Info dictionary, of whatever type the host gave it; null when
+/// there is none.
+Value infoValue(const Value::Dictionary& info, std::string_view key);
+
 /// "CFBundleName" as the host translates it, else as it stands; nothing when it is no text.
-std::optional<std::string> localizedName(const platform::MainBundle& bundle,
-                                         const platform::Localization& localization);
+std::optional<std::string> localizedName(const Value::Dictionary& info,
+                                         const platform::Application& application);
 
 /// A store identifier as text: a number's decimal digits, a string as it stands.
 std::optional<std::string> appstoreIDFromInfo(const Value& value);

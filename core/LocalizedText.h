@@ -6,14 +6,13 @@
 #include <string>
 #include <string_view>
 
-#include "platform/MainBundle.h"
+#include "platform/Application.h"
 
 namespace wrenvale {
 
 /// The host's translation of a text of the framework's; the text, which is English, without one.
-inline std::string localizedText(const platform::Localization& localization,
-                                 std::string_view text) {
-  return localization.localizedStringForKey(text, "Wrenvale");
+inline std::string localizedText(const platform::Application& application, std::string_view text) {
+  return application.localizedString(text, "Wrenvale").value_or(std::string(text));
 }
 
 } // namespace wrenvale

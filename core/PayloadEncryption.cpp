@@ -16,20 +16,20 @@ constexpr int kBrokenBuild = 255;
 
 } // namespace
 
-std::unique_ptr<platform::PublicKey> Service::_importPublicKey() const {
+platform::Encrypt Service::_importPublicKey() const {
   auto imported = _platform.encryption.importPublicKey(_configuration.publicKey);
   if (imported.status != 0) {
     // The second line is the list of what was imported: nothing.
     std::fprintf(stderr, "SecItemImport failed (oserr=%d)\n(null)\n", imported.status);
     _platform.application.terminate(kBrokenBuild);
   }
-  return std::move(imported.key);
+  return std::move(imported.encrypt);
 }
 
 std::optional<std::string> Service::encryptString(std::string_view string) const {
   return guarded([&]() -> std::optional<std::string> {
-    const auto key = _importPublicKey();
-    const auto ciphertext = key ? key->encrypt(string) : std::nullopt;
+    const auto encrypt = _importPublicKey();
+    const auto ciphertext = encrypt ? encrypt(string) : std::nullopt;
     if (!ciphertext) return std::nullopt;
     return base64Encoded(*ciphertext);
   });

@@ -10,7 +10,7 @@
 namespace wrenvale {
 
 void Service::reset() {
-  guarded([&] { _platform.queues.globalQueue().async([this] { checkReset(); }); });
+  guarded([&] { _platform.globalQueue.async([this] { checkReset(); }); });
 }
 
 // Blocks its background thread for as long as the download takes. What the defaults say is read
@@ -40,7 +40,7 @@ void Service::checkReset() {
 }
 
 void Service::applyReset(const ResetOutcome& outcome) {
-  auto& mainQueue = _platform.queues.mainQueue();
+  auto& mainQueue = _platform.mainQueue;
   const auto owe = [this] { oweUpdateWindow(); };
   if (outcome.resetNumber) {
     mainQueue.async([this, &mainQueue, outcome, owe] {

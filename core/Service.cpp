@@ -19,23 +19,22 @@ Service::Service(const platform::Platform& platform, BuildConfiguration configur
     // A host without an identifier keeps nothing, so each of its runs would be the first.
     , _firstRun(bundleID() &&
                 platform.userDefaults.objectForKey(keys::kRecommenderLastVersion).isNull())
-    , _loadQueue(platform.queues.makeSerialQueue())
     , _localeSuffix(localeSuffix(platform.locale))
-    , _machineModel(platform.kernel.sysctlbyname("hw.model"))
+    , _machineModel(platform.system.sysctlbyname("hw.model"))
     , _macAppstoreID(
-          appstoreIDFromInfo(platform.mainBundle.objectForInfoDictionaryKey(info::kAppstoreID))) {}
+          appstoreIDFromInfo(infoValue(platform.info, info::kAppstoreID))) {}
 
 Service::~Service() = default;
 
 std::optional<std::string> Service::bundleID() const {
   return guarded([&] {
-    return stringValue(_platform.mainBundle.objectForInfoDictionaryKey(info::kIdentifier));
+    return stringValue(infoValue(_platform.info, info::kIdentifier));
   });
 }
 
 std::int64_t Service::bundleVersion() const {
   return guarded([&] {
-    return integerValue(_platform.mainBundle.objectForInfoDictionaryKey(info::kVersion));
+    return integerValue(infoValue(_platform.info, info::kVersion));
   });
 }
 
@@ -47,7 +46,7 @@ std::string Service::versionString() const {
 const std::string& Service::appName() const {
   guarded([&] {
     std::call_once(_appNameOnce, [&] {
-      _appName = localizedName(_platform.mainBundle, _platform.localization).value_or("");
+      _appName = localizedName(_platform.info, _platform.application).value_or("");
     });
   });
   return _appName;
@@ -56,7 +55,7 @@ const std::string& Service::appName() const {
 std::optional<std::string> Service::userAgent() const {
   return guarded([&] {
     return userAgentFor({appName(), bundleVersion(), _macAppstoreID}, _machineModel,
-                        _platform.kernel);
+                        _platform.system);
   });
 }
 

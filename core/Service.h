@@ -29,8 +29,6 @@ namespace wrenvale {
 namespace platform {
 struct Platform;
 struct URLRequest;
-class PublicKey;
-class Queue;
 } // namespace platform
 
 struct ResetOutcome;
@@ -65,9 +63,9 @@ public:
   std::optional<std::string> encryptString(std::string_view string) const;
   /// Puts userAgent(), when there is one, into the request's "User-Agent" field.
   void _setUserAgent(platform::URLRequest& request) const;
-  /// A new key object for the embedded public key; null when the encryption module is missing.
-  /// Ends the process when the key does not import.
-  std::unique_ptr<platform::PublicKey> _importPublicKey() const;
+  /// What encrypts under the embedded public key; null when the encryption module is missing. Ends
+  /// the process when the key does not import.
+  std::function<std::optional<std::string>(std::string_view plaintext)> _importPublicKey() const;
 
   /// Asks the maker's server, in the background, whether the welcome window is owed again. Any
   /// thread.
@@ -152,7 +150,6 @@ private:
   const Endpoints _endpoints;
 
   const bool _firstRun;
-  const std::unique_ptr<platform::Queue> _loadQueue;
   const std::string _localeSuffix;
   const std::optional<std::string> _machineModel;
   const std::optional<std::string> _macAppstoreID;

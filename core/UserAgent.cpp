@@ -3,16 +3,9 @@
 #include <wrenvale/HTMLAdditions.h>
 
 #include "base/Value.h"
-#include "platform/Kernel.h"
+#include "platform/System.h"
 
 namespace wrenvale {
-
-namespace {
-
-// The application framework of the 10.10 system; earlier ones keep their own user agent.
-constexpr double kOldestSystem = 1343.0;
-
-} // namespace
 
 std::string applicationNameForUserAgent(const HostIdentity& host) {
   return urlEncoded(std::string_view(host.appName)) + "/" + std::to_string(host.bundleVersion) +
@@ -21,9 +14,8 @@ std::string applicationNameForUserAgent(const HostIdentity& host) {
 
 std::optional<std::string> userAgentFor(const HostIdentity& host,
                                         const std::optional<std::string>& machineModel,
-                                        const platform::Kernel& kernel) {
-  if (kernel.appKitVersionNumber() < kOldestSystem) return std::nullopt;
-  const auto release = kernel.sysctlbyname("kern.osrelease");
+                                        const platform::System& system) {
+  const auto release = system.sysctlbyname("kern.osrelease");
   if (!release) return std::nullopt;
   // The architecture is part of the format and not taken from the machine.
   return applicationNameForUserAgent(host) + " Darwin/" + *release + " (x86_64) (" +

@@ -10,7 +10,7 @@
 namespace wrenvale {
 
 namespace platform {
-class Kernel;
+class System;
 }
 
 struct HostIdentity {
@@ -23,11 +23,11 @@ struct HostIdentity {
 /// window's web view adds to its own user agent, and how the framework's downloads begin theirs.
 std::string applicationNameForUserAgent(const HostIdentity& host);
 
-/// The user agent of the framework's own downloads. Nothing on a system whose application framework
-/// is older than 1343.0 or that does not tell its kernel release.
+/// The user agent of the framework's own downloads. Nothing on a system that does not tell its
+/// kernel's release.
 std::optional<std::string> userAgentFor(const HostIdentity& host,
                                         const std::optional<std::string>& machineModel,
-                                        const platform::Kernel& kernel);
+                                        const platform::System& system);
 
 } // namespace wrenvale
 

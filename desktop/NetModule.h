@@ -15,6 +15,8 @@ struct NetModule {
   URLLoading& urlLoading;
   Encryption& encryption;
   JSONSerialization& json;
+  /// See below.
+  void (*cancelAllRequests)();
 };
 
 /// The module's one entry, named kNetModuleEntry; never null. Any thread but the main one.
@@ -22,6 +24,10 @@ using NetModuleEntry = const NetModule* (*)();
 inline constexpr const char* kNetModuleEntry = "wrenvale_net_module";
 /// Where the module is, relative to the folder of the library.
 inline constexpr const char* kNetModuleFile = "wrenvale/libwrenvale-net.so";
+
+/// The process is ending: downloads under way return nothing as soon as they can, later ones at
+/// once. Loads nothing. Any thread.
+void cancelAllRequests();
 
 } // namespace wrenvale::platform
 

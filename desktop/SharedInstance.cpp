@@ -11,6 +11,7 @@
 #include "base/Guard.h"
 #include "core/BuildConfiguration.h"
 #include "core/Service.h"
+#include "desktop/qt/app/LaunchEvent.h"
 #include "platform/Platform.h"
 
 namespace wrenvale {
@@ -48,8 +49,8 @@ void load() {
                "asked. Name an Info dictionary with wrenvale_host().\n",
                stderr);
 #endif
-  platform::builtInPlatform().application.observeDidFinishLaunching(
-      [] { service().launchHandler(); });
+  platform::builtInPlatform(); // its queues open before the service launches
+  platform::callWhenLaunched([] { service().launchHandler(); });
 }
 
 // Runs before any constructor of the host, since the host depends on this library.

@@ -6,19 +6,31 @@
 
 #include <memory>
 
+#include "platform/WebView.h"
+
+class QWidget;
+
 namespace wrenvale::platform {
 
-class WebView;
 class WebViewDelegate;
+struct PageRequest;
+
+struct LoadedWebView {
+  std::unique_ptr<WebView> view;
+  /// What shows it, hidden at first. Whoever gives it a parent hands over its ownership with that;
+  /// destroying it harms nothing.
+  QWidget* widget = nullptr;
+};
 
 /// Lives until the process ends; the module is never unloaded.
 class WebViewModule {
 public:
   virtual ~WebViewModule() = default;
 
-  /// Starts the engine on the first call. Null where it cannot start, which is found out without
-  /// starting it. Main thread only; there is a QApplication.
-  virtual std::unique_ptr<WebView> makeWebView(WebViewDelegate& delegate) = 0;
+  /// Loads a page into a view of its own, past every cache; the delegate is told later. Starts the
+  /// engine on the first call. Null where it cannot start, which is found out without starting it.
+  /// Main thread only; there is a QApplication.
+  virtual LoadedWebView makeWebView(WebViewDelegate& delegate, const PageRequest& request) = 0;
 };
 
 /// The module's one entry, named kWebViewModuleEntry; never null.

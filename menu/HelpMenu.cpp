@@ -44,10 +44,10 @@ constexpr struct {
 // A translation is written as a title; the English text is shown as it is.
 struct LocalizedTitle {
   const platform::Menus& menus;
-  const platform::Localization& localization;
+  const platform::Application& application;
 
   std::string operator()(const std::string& english) const {
-    auto text = localizedText(localization, english);
+    auto text = localizedText(application, english);
     return text == english ? menus.titleForText(english) : text;
   }
 };
@@ -57,13 +57,13 @@ struct LocalizedTitle {
 bool hasHelpItem(const platform::Menu& menu) {
   const auto items = menu.items();
   return std::any_of(items.begin(), items.end(),
-                     [](const auto& item) { return item->action() == "showHelp:"; });
+                     [](const auto& item) { return item.action == "showHelp:"; });
 }
 
 std::vector<HelpMenuItem> helpMenuItems(bool alreadyHasHelp, const HelpMenuNames& names,
                                         const platform::Menus& menus,
-                                        const platform::Localization& localization) {
-  const LocalizedTitle localizedTitle{menus, localization};
+                                        const platform::Application& application) {
+  const LocalizedTitle localizedTitle{menus, application};
   std::vector<HelpMenuItem> items;
   if (!alreadyHasHelp) {
     const auto appName = menus.titleForText(names.appName.value_or("(null)"));

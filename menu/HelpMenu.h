@@ -8,7 +8,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/MainBundle.h"
+#include "platform/Application.h"
 #include "platform/Menus.h"
 
 namespace wrenvale {
@@ -42,7 +42,7 @@ bool hasHelpItem(const platform::Menu& menu);
 /// The items to append, in order; the item for help comes first unless there is one already.
 std::vector<HelpMenuItem> helpMenuItems(bool alreadyHasHelp, const HelpMenuNames& names,
                                         const platform::Menus& menus,
-                                        const platform::Localization& localization);
+                                        const platform::Application& application);
 
 } // namespace wrenvale
 

@@ -29,16 +29,15 @@ T& made(std::shared_ptr<T>& object) {
 }
 
 std::optional<std::string> appName(const platform::Platform& platform) {
-  return localizedName(platform.mainBundle, platform.localization);
+  return localizedName(platform.info, platform.application);
 }
 
 // Takes a menu, whatever its name says.
 void _replaceAppNameInMenuItem(const platform::Platform& platform, const platform::Menu& menu) {
   const auto name = platform.menus.titleForText(appName(platform).value_or(""));
   for (const auto& item : menu.items()) {
-    const auto title = item->title();
-    if (title.find(kAppNamePlaceholder) != std::string::npos)
-      item->setTitle(withAppName(title, name));
+    if (item.title.find(kAppNamePlaceholder) != std::string::npos)
+      item.setTitle(withAppName(item.title, name));
   }
 }
 
@@ -49,9 +48,9 @@ void addHelpMenuItems(const Service& service, platform::Menu& helpMenu,
   const HelpMenuNames names{.appName = appName(platform),
                             .vendorSiteName = service.vendorSiteName()};
   for (auto& item :
-       helpMenuItems(hasHelpItem(helpMenu), names, platform.menus, platform.localization)) {
+       helpMenuItems(hasHelpItem(helpMenu), names, platform.menus, platform.application)) {
     if (!item.action) {
-      helpMenu.addSeparator();
+      helpMenu.addItem({});
       continue;
     }
     helpMenu.addItem({.title = std::move(item.title),
@@ -91,8 +90,7 @@ void KVXWrenvaleController::awakeFromNib() {
     if (menus.helpMenu) addHelpMenuItems(_service, *menus.helpMenu, choose);
     if (!menus.mainMenu) return;
     for (const auto& item : menus.mainMenu->items())
-      if (const auto submenu = item->submenu())
-        _replaceAppNameInMenuItem(_service.platform(), *submenu);
+      if (item.submenu) _replaceAppNameInMenuItem(_service.platform(), *item.submenu);
   });
 }
 

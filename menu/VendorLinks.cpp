@@ -8,23 +8,23 @@
 namespace wrenvale {
 
 void Service::openSupportWebPage() {
-  guarded([&] { _platform.workspace.openURL(_endpoints.support(_localeSuffix, bundleID())); });
+  guarded([&] { _platform.application.openURL(_endpoints.support(_localeSuffix, bundleID())); });
 }
 
 void Service::openGeneralSupport() {
-  guarded([&] { _platform.workspace.openURL(_endpoints.generalSupport(_localeSuffix)); });
+  guarded([&] { _platform.application.openURL(_endpoints.generalSupport(_localeSuffix)); });
 }
 
 void Service::moreApps() {
-  guarded([&] { _platform.workspace.openURL(_endpoints.moreApps(_localeSuffix)); });
+  guarded([&] { _platform.application.openURL(_endpoints.moreApps(_localeSuffix)); });
 }
 
 void Service::followOnTwitter() {
-  guarded([&] { _platform.workspace.openURL(_endpoints.twitter()); });
+  guarded([&] { _platform.application.openURL(_endpoints.twitter()); });
 }
 
 void Service::openKVXWebPage() {
-  guarded([&] { _platform.workspace.openURL(_endpoints.webSite()); });
+  guarded([&] { _platform.application.openURL(_endpoints.webSite()); });
 }
 
 } // namespace wrenvale

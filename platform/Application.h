@@ -1,9 +1,10 @@
-// The running host application.
+// The running host application and the desktop it runs on.
 
 #ifndef WRENVALE_PLATFORM_APPLICATION_H
 #define WRENVALE_PLATFORM_APPLICATION_H
 
-#include <functional>
+#include <optional>
+#include <string>
 #include <string_view>
 
 namespace wrenvale::platform {
@@ -13,13 +14,18 @@ class Application {
 public:
   virtual ~Application() = default;
 
-  /// Calls `handler` once, on the main thread, when the host has finished launching: before
-  /// anything that the host queued for its event loop. May be called before `main`, and before the
-  /// host has created any application object.
-  virtual void observeDidFinishLaunching(std::function<void()> handler) = 0;
-
   virtual void activateIgnoringOtherApps(bool flag) = 0;
   virtual void beep() = 0;
+
+  /// Opens an address in the application that handles its scheme. False when it is no address, its
+  /// scheme would run or read something local, nothing handles it, or addresses are being opened
+  /// faster than a person would; nothing is opened then.
+  virtual bool openURL(std::string_view url) = 0;
+
+  /// The host's translation of `key` in `table`, nothing when it has none. Any thread; a host may
+  /// install translators at any time.
+  virtual std::optional<std::string> localizedString(std::string_view key,
+                                                     std::string_view table) const = 0;
 
   /// Makes a font of the framework's own resources known to this process by its family name. False
   /// when there is no such resource, or no windows to show text in.

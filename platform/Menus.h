@@ -20,30 +20,24 @@ using HostMenuBar = ::QMenuBar;
 
 class Menu;
 
-/// An item that is to be added.
-struct NewMenuItem {
+/// An item of a menu as it is now; separators and items that show something of the host's own are
+/// items too. A title is in the toolkit's notation: it may mark an access key, or say more than is
+/// shown.
+struct MenuItem {
   std::string title;
-  std::string keyEquivalent{}; ///< pressed together with the Command modifier; empty for none
-  std::string action;          ///< the name that the item is found by; ends in a colon
-  /// Called with the item each time that the user chooses it; does not throw.
-  std::function<void(::QObject* sender)> choose;
+  std::string action{};            ///< "showHelp:" for the application's standard help item
+  std::unique_ptr<Menu> submenu{}; ///< null when the item has none
+  /// Changes nothing but the title; does nothing once the host has deleted the item.
+  std::function<void(std::string_view)> setTitle{};
 };
 
-/// An item of a menu, held weakly: one that the host has deleted has no title, action or submenu,
-/// and takes none. Separators and items that show something of the host's own are items too.
-///
-/// A title is in the toolkit's notation: it may mark an access key, or say more than is shown.
-class MenuItem {
-public:
-  virtual ~MenuItem() = default;
-
-  virtual std::string title() const = 0;
-  /// Changes nothing but the title.
-  virtual void setTitle(std::string_view title) = 0;
-  /// "showHelp:" for the application's standard help item, whatever it is called; else empty.
-  virtual std::string action() const = 0;
-  /// Null when the item has none.
-  virtual std::unique_ptr<Menu> submenu() const = 0;
+/// An item that is to be added; one without an action is a separator.
+struct NewMenuItem {
+  std::string title{};
+  std::string keyEquivalent{}; ///< pressed together with the Command modifier; empty for none
+  std::string action{};        ///< the name that the item is found by; ends in a colon
+  /// Called with the item each time that the user chooses it; does not throw.
+  std::function<void(::QObject* sender)> choose{};
 };
 
 /// A menu or a menu bar of the host's, held weakly: one that the host has deleted has no items and
@@ -53,10 +47,9 @@ public:
   virtual ~Menu() = default;
 
   /// The items that there are now, in order.
-  virtual std::vector<std::unique_ptr<MenuItem>> items() const = 0;
+  virtual std::vector<MenuItem> items() const = 0;
   /// Adds at the end; what is added belongs to the menu.
   virtual void addItem(NewMenuItem item) = 0;
-  virtual void addSeparator() = 0;
 };
 
 class Menus {

@@ -3,51 +3,41 @@
 #ifndef WRENVALE_PLATFORM_PLATFORM_H
 #define WRENVALE_PLATFORM_PLATFORM_H
 
-#include "platform/Alerts.h"
 #include "platform/Application.h"
-#include "platform/Clock.h"
-#include "platform/Encryption.h"
-#include "platform/Files.h"
-#include "platform/JSONSerialization.h"
-#include "platform/Kernel.h"
-#include "platform/Locale.h"
-#include "platform/MainBundle.h"
 #include "platform/Menus.h"
+#include "platform/Net.h"
 #include "platform/Queue.h"
-#include "platform/Random.h"
-#include "platform/RateWindow.h"
-#include "platform/RecommenderWindow.h"
-#include "platform/URLLoading.h"
+#include "platform/System.h"
 #include "platform/UserDefaults.h"
-#include "platform/Workspace.h"
+#include "platform/Windows.h"
 
 namespace wrenvale::platform {
 
 /// What needs no toolkit. The parts live as long as whoever made them says; the built-in ones are
 /// never destroyed.
 struct SystemParts {
-  MainBundle& mainBundle;
+  /// The host's description of itself: constant for the life of the process, readable before
+  /// `main`, from any thread; empty when the host has none.
+  const Value::Dictionary& info;
   UserDefaults& userDefaults;
+  System& system;
   Locale& locale;
-  Kernel& kernel;
+  InstalledApplications& installedApplications;
   URLLoading& urlLoading;
   Encryption& encryption;
   JSONSerialization& json;
-  InstalledApplications& installedApplications;
-  FileManager& fileManager;
-  Clock& clock;
-  Random& random;
 };
 
 /// The system parts and what a toolkit adds.
 struct Platform : SystemParts {
-  Localization& localization;
+  /// Runs tasks on the main thread, one at a time, in order, once the host's event loop runs.
+  Queue& mainQueue;
+  /// Runs tasks in the background, several at the same time, in no order.
+  Queue& globalQueue;
+  /// Runs tasks in the background, one at a time, in order.
+  Queue& serialQueue;
   Application& application;
-  Workspace& workspace;
-  Queues& queues;
-  RateWindows& rateWindows;
-  Alerts& alerts;
-  RecommenderWindows& recommenderWindows;
+  Windows& windows;
   Menus& menus;
 };
 

@@ -1,15 +1,14 @@
-// Where work runs: the main queue and background queues.
+// Where work runs.
 
 #ifndef WRENVALE_PLATFORM_QUEUE_H
 #define WRENVALE_PLATFORM_QUEUE_H
 
 #include <cstddef>
 #include <functional>
-#include <memory>
 
 namespace wrenvale::platform {
 
-/// Any thread may submit.
+/// Any thread may submit. No thread exists before the first task.
 class Queue {
 public:
   using Task = std::function<void()>;
@@ -24,21 +23,6 @@ public:
   /// task that has not begun when the process ends is dropped too, and so is one that comes while
   /// kMostWaiting others wait.
   virtual void async(Task task) = 0;
-};
-
-class Queues {
-public:
-  virtual ~Queues() = default;
-
-  /// Tasks run on the main thread, one at a time, in order, once the host's event loop runs.
-  virtual Queue& mainQueue() = 0;
-
-  /// Tasks run in the background, several at the same time, in no order.
-  virtual Queue& globalQueue() = 0;
-
-  /// A new queue whose tasks run in the background, one at a time, in order. No thread exists
-  /// before its first task.
-  virtual std::unique_ptr<Queue> makeSerialQueue() = 0;
 };
 
 } // namespace wrenvale::platform

@@ -4,13 +4,10 @@
 #ifndef WRENVALE_PLATFORM_RATEWINDOW_H
 #define WRENVALE_PLATFORM_RATEWINDOW_H
 
-#include <cstdint>
 #include <functional>
-#include <memory>
-#include <string>
 #include <string_view>
 
-#include "platform/HostWindow.h"
+#include <wrenvale/HostWindow.h>
 
 namespace wrenvale::platform {
 
@@ -27,26 +24,19 @@ public:
   /// The user, the window system, a parent that goes or a host that quits closes the window. It
   /// closes when the answer is true.
   virtual bool windowShouldClose() = 0;
-  /// The pointer entered or left a button's tracking area.
-  virtual void mouseEntered(std::int64_t mode) = 0;
-  virtual void mouseExited(std::int64_t mode) = 0;
+  /// The pointer entered or left a button.
+  virtual void mouseEntered(RateButton button) = 0;
+  virtual void mouseExited(RateButton button) = 0;
 };
 
-/// Made from the layout "Rate Window", hidden. Main thread only. Destroying it closes it without
-/// asking, ends its modal loop, and does no harm while one of its delegate's calls is under way.
+/// Hidden at first. Main thread only. Destroying it closes it without asking, ends its modal loop,
+/// and does no harm while one of its delegate's calls is under way.
 class RateWindow {
 public:
   virtual ~RateWindow() = default;
 
-  /// Looks up an image resource of the framework's by name and files it under `mood`; a missing one
-  /// files nothing.
-  virtual void loadImage(std::int64_t mood, std::string_view name) = 0;
-  /// Shows the image filed under `mood`, or none.
-  virtual void showImage(std::int64_t mood) = 0;
-  /// Has the delegate told, with `mode`, when the pointer enters or leaves the button.
-  virtual void addTrackingArea(RateButton button, std::int64_t mode) = 0;
-  /// The host's name, for the layout's texts.
-  virtual void setAppName(std::string_view appName) = 0;
+  /// Shows the framework's image of this name, or none when there is no such image.
+  virtual void showImage(std::string_view name) = 0;
   /// Puts a view into the bottom container; `pushed` lets it push the present one out, coming from
   /// the right (from the left where text runs that way), unless the desktop wants no animations.
   virtual void setView(RateView view, bool pushed) = 0;
@@ -54,16 +44,15 @@ public:
   /// Attaches the window to `parent`: centred on it, not to be moved by the user.
   virtual void attachToParent(HostWindow* parent) = 0;
   virtual void makeKeyAndOrderFront() = 0;
+  /// Runs the window modally until it is closed or destroyed in any way; not at all when it is
+  /// closed already.
+  virtual void runModal() = 0;
   /// Closes without asking the delegate.
   virtual void close() = 0;
-
-  /// Runs the window modally until abortModal(), or until it is closed or destroyed in any way.
-  virtual void runModal() = 0;
-  virtual void abortModal() = 0;
 };
 
 /// The dark layer over a parent's content while the rate window is above it. Made transparent.
-/// Outlives its parent without harm; destroying it removes it.
+/// Outlives its parent without harm; destroying it removes it. Main thread only.
 class DimmingOverlay {
 public:
   virtual ~DimmingOverlay() = default;
@@ -72,17 +61,6 @@ public:
   /// once when the desktop wants no animations or the parent is gone. Never calls it after the
   /// overlay is destroyed.
   virtual void animateAlpha(double alpha, std::function<void()> completion) = 0;
-};
-
-/// Makes windows. Main thread only.
-class RateWindows {
-public:
-  virtual ~RateWindows() = default;
-
-  /// Null in a process without windows.
-  virtual std::unique_ptr<RateWindow> makeRateWindow(RateWindowDelegate& delegate) = 0;
-  /// Over the content of `parent`; shown nowhere when it is null.
-  virtual std::unique_ptr<DimmingOverlay> makeOverlay(HostWindow* parent) = 0;
 };
 
 } // namespace wrenvale::platform

@@ -7,13 +7,10 @@
 
 #include <chrono>
 #include <functional>
-#include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "base/Value.h"
-#include "platform/Alerts.h"
+#include "platform/Alert.h"
 #include "platform/WebView.h"
 
 namespace wrenvale::platform {
@@ -32,33 +29,29 @@ public:
   virtual void windowWillClose() = 0;
 };
 
-/// Made from the layout "Recommender", hidden. Main thread only. Destroying it closes it without
-/// telling the delegate, and does no harm while one of the delegate's calls or a sheet's handler is
-/// under way. A window whose web view cannot be had (no module, engine that does not start) behaves
-/// like one whose page cannot be fetched.
+/// What the window asks the maker's server for.
+struct PageRequest {
+  std::string url;
+  std::string applicationName;           ///< what is added to the engine's own user agent
+  std::chrono::seconds timeout{60};      ///< until the page begins to arrive
+};
+
+/// White, hidden, its web view hidden behind a progress indicator that spins. Main thread only.
+/// Destroying it closes it without telling the delegate, and does no harm while one of the
+/// delegate's calls or a sheet's handler is under way. A window whose web view cannot be had (no
+/// module, engine that does not start) behaves like one whose page cannot be fetched.
 class RecommenderWindow {
 public:
   virtual ~RecommenderWindow() = default;
 
   virtual void setTitle(std::string_view title) = 0;
-  virtual void setBackgroundWhite() = 0;
-  virtual void setWebViewHidden(bool hidden) = 0;
-  /// The progress indicator spins and shows, or stands still and hides.
-  virtual void setProgressShown(bool shown) = 0;
 
-  virtual void removeAllCachedResponses() = 0;
-  /// What the web view adds to its own user agent.
-  virtual void setApplicationNameForUserAgent(std::string_view name) = 0;
-  /// Loads a page into the main frame, past every cache; gives up after `timeout`.
-  virtual void loadRequest(std::string_view url, std::chrono::seconds timeout) = 0;
-
-  /// Publishes a global object to the main frame's scripts. Frames inside the page get nothing.
-  virtual void setScriptObject(std::string_view name, const std::vector<ScriptMethod>& methods) = 0;
-  /// Whether there is a page whose functions can be called.
-  virtual bool hasScriptObject() const = 0;
-  /// Calls a global function of the page, later or at once; its result is dropped, and so is the
-  /// call when there is no such function.
-  virtual void callWebScriptMethod(std::string_view name, const std::vector<Value>& arguments) = 0;
+  /// Loads a page, past every cache. Once; the web view begins its life with it.
+  virtual void loadRequest(const PageRequest& request) = 0;
+  /// Null before the page is asked for, and once the window is closed.
+  virtual WebView* webView() const = 0;
+  /// Shows the web view in the place of the progress indicator.
+  virtual void revealWebView() = 0;
 
   virtual bool isVisible() const = 0;
   virtual Frame frame() const = 0;
@@ -66,7 +59,7 @@ public:
   virtual Frame frameForContentSize(double width, double height) const = 0;
   /// The page chooses the size: it may be negative, or too large for any screen.
   virtual void setFrame(const Frame& frame, bool animate) = 0;
-  virtual void showWindow() = 0;
+  /// Brings the window to the front, be it shown already or not.
   virtual void makeKeyAndOrderFront() = 0;
 
   /// Shows the alert as a sheet on the window. `handler` is called once with the answer, or never
@@ -75,18 +68,6 @@ public:
 
   /// Closes the window and ends its page; the delegate is told.
   virtual void close() = 0;
-  /// Ends the page: no script, sound or request of it is left.
-  virtual void closeWebView() = 0;
-};
-
-/// Main thread only.
-class RecommenderWindows {
-public:
-  virtual ~RecommenderWindows() = default;
-
-  /// Null in a process without windows.
-  virtual std::unique_ptr<RecommenderWindow>
-  makeRecommenderWindow(RecommenderWindowDelegate& delegate) = 0;
 };
 
 } // namespace wrenvale::platform

@@ -3,7 +3,6 @@
 #ifndef WRENVALE_PLATFORM_WEBVIEW_H
 #define WRENVALE_PLATFORM_WEBVIEW_H
 
-#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -11,7 +10,6 @@
 #include <vector>
 
 #include "base/Value.h"
-#include "platform/HostWindow.h"
 
 namespace wrenvale::platform {
 
@@ -60,14 +58,15 @@ public:
   /// integer or a string; nothing makes the call a script error in the page.
   virtual std::optional<Value> invokeScriptMethod(std::string_view name,
                                                   const std::vector<Value>& arguments) = 0;
+  /// The page wants to go somewhere, in its own window or in a new one.
   virtual PolicyDecision decidePolicyForNavigationAction(const NavigationAction& action) = 0;
-  virtual PolicyDecision decidePolicyForNewWindowAction(const NavigationAction& action) = 0;
   /// A page could not be fetched, or its process is gone.
   virtual void didFailProvisionalLoad(const LoadError& error, bool isMainFrame) = 0;
 };
 
-/// Main thread only. Destroying it closes it, and does no harm while one of the delegate's calls is
-/// under way. The delegate outlives it.
+/// Main thread only. Destroying it ends the page, of which no script, sound or request is left once
+/// the event loop has turned, and does no harm while one of the delegate's calls is under way. The
+/// delegate outlives it.
 ///
 /// The page is kept apart from the user's other data: nothing of it is stored, it reaches no files,
 /// gets no permission, opens no window or dialog, and downloads nothing. Text in it cannot be
@@ -76,27 +75,12 @@ class WebView {
 public:
   virtual ~WebView() = default;
 
-  /// The view itself; whoever gives it a parent hands over its ownership with that. Null once it is
-  /// destroyed, which harms nothing.
-  virtual HostWindow* widget() = 0;
-
-  /// What the view adds to the engine's own user agent. Before loadRequest().
-  virtual void setApplicationNameForUserAgent(std::string_view name) = 0;
-  /// Loads a page into the main frame, past every cache; fails unless the page begins to arrive
-  /// within `timeout`. Once.
-  virtual void loadRequest(std::string_view url, std::chrono::milliseconds timeout) = 0;
-
   /// Publishes a global object to the main frame's scripts; frames inside the page get nothing.
   /// From within didClearWindowObject() only.
   virtual void setScriptObject(std::string_view name, const std::vector<ScriptMethod>& methods) = 0;
-  /// Whether the page that is there has got an object.
-  virtual bool hasScriptObject() const = 0;
   /// Calls a global function of the page, later; its result is dropped, and so is the call when
-  /// there is no such function.
-  virtual void callWebScriptMethod(std::string_view name, const std::vector<Value>& arguments) = 0;
-
-  /// Ends the page: no script, sound or request of it is left once the event loop has turned.
-  virtual void close() = 0;
+  /// there is no such function. False, and no call, when the page that is there has got no object.
+  virtual bool callWebScriptMethod(std::string_view name, const std::vector<Value>& arguments) = 0;
 };
 
 } // namespace wrenvale::platform

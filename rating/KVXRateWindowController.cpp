@@ -28,6 +28,12 @@ RateView viewOf(RateButton button) {
   }
 }
 
+// The mood, and so the face, that the button stands for.
+std::int64_t moodOf(RateButton button) {
+  if (button == RateButton::kLike) return kRateLike;
+  return button == RateButton::kDislike ? kRateDislike : kRateNeutral;
+}
+
 } // namespace
 
 KVXRateWindowController::KVXRateWindowController(const platform::Platform& platform,
@@ -36,22 +42,13 @@ KVXRateWindowController::KVXRateWindowController(const platform::Platform& platf
     , _links(std::move(links)) {}
 
 bool KVXRateWindowController::loadWindow() {
-  _window = _platform.rateWindows.makeRateWindow(*this);
+  _appName = localizedName(_platform.info, _platform.application);
+  _window = _platform.windows.makeRateWindow(*this, _appName.value_or(""));
   if (!_window) return false;
-  _date = _platform.clock.now();
-  for (auto mood = kRateNeutral; mood <= kRateLike; ++mood)
-    _window->loadImage(mood, "smile-" + std::to_string(mood));
-  _window->addTrackingArea(RateButton::kDislike, kRateDislike);
-  _window->addTrackingArea(RateButton::kLike, kRateLike);
+  _date = _platform.system.now();
   _update();
   _setView(RateView::kRate);
-  _appName = hostName();
-  _window->setAppName(_appName.value_or(""));
   return true;
-}
-
-std::optional<std::string> KVXRateWindowController::hostName() const {
-  return localizedName(_platform.mainBundle, _platform.localization);
 }
 
 void KVXRateWindowController::setCompletitionHandler(CompletitionHandler completitionHandler) {
@@ -64,17 +61,18 @@ void KVXRateWindowController::_setView(RateView view) {
 }
 
 void KVXRateWindowController::_update() {
-  _window->showImage(_imageMode);
+  _window->showImage("smile-" + std::to_string(_imageMode));
 }
 
-void KVXRateWindowController::mouseEntered(std::int64_t mode) {
-  if (mode == _imageMode) return;
-  _imageMode = mode;
+void KVXRateWindowController::mouseEntered(RateButton button) {
+  const auto mood = moodOf(button);
+  if (mood == kRateNeutral || mood == _imageMode) return;
+  _imageMode = mood;
   guarded([&] { _update(); });
 }
 
-void KVXRateWindowController::mouseExited(std::int64_t mode) {
-  if (mode != _imageMode) return;
+void KVXRateWindowController::mouseExited(RateButton button) {
+  if (moodOf(button) != _imageMode) return;
   _imageMode = kRateNeutral;
   guarded([&] { _update(); });
 }

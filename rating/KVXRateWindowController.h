@@ -50,10 +50,10 @@ public:
   void buttonAction(platform::RateButton sender) override;
   /// Always true. Ends the session as dismissed if it has not ended yet.
   bool windowShouldClose() override;
-  /// `mode` is the mood of the button under the pointer. Leaving a button changes the face only
-  /// while it is that button's, since the next button may have been entered before.
-  void mouseEntered(std::int64_t mode) override;
-  void mouseExited(std::int64_t mode) override;
+  /// The like and dislike buttons have a face each. Leaving one changes the face only while it is
+  /// that button's, since the next button may have been entered before.
+  void mouseEntered(platform::RateButton button) override;
+  void mouseExited(platform::RateButton button) override;
 
   /// Action codes in the order in which they happened.
   const std::vector<std::int64_t>& rateHistory() const { return _rateHistory; }
@@ -73,7 +73,6 @@ private:
   void _addHistory(std::int64_t code);
   void _executeCompletitionHandler();
   void endWith(std::int64_t code, const std::function<void()>& link);
-  std::optional<std::string> hostName() const;
 
   const platform::Platform& _platform;
   const RateWindowLinks _links;

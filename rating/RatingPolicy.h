@@ -15,7 +15,7 @@
 #include <vector>
 
 #include "base/Value.h"
-#include "platform/Alerts.h"
+#include "platform/Alert.h"
 
 namespace wrenvale::rating {
 

@@ -21,7 +21,7 @@ constexpr double kDimmed = 0.3;
 // Outlives the session that made it: its own last animation holds it.
 using SharedOverlay = std::shared_ptr<std::unique_ptr<platform::DimmingOverlay>>;
 
-SharedOverlay dim(platform::RateWindows& windows, HostWindow* window) {
+SharedOverlay dim(platform::Windows& windows, HostWindow* window) {
   const auto overlay = std::make_shared<SharedOverlay::element_type>(windows.makeOverlay(window));
   if (*overlay) (*overlay)->animateAlpha(kDimmed, {});
   return overlay;
@@ -42,7 +42,7 @@ void removeAfterAnimation(const SharedOverlay& overlay, platform::Queue& mainQue
 void Service::fileEarlierStoreRating() {
   const Value ratings = _platform.userDefaults.objectForKey(keys::kVersionRatings);
   if (rating::hasEntry(ratings, versionString()) || !rating::anyRatedInStore(ratings)) return;
-  _storeRateHistory({rating::kRatedEarlierBuild}, _platform.clock.now(), false);
+  _storeRateHistory({rating::kRatedEarlierBuild}, _platform.system.now(), false);
 }
 
 void Service::_storeRateHistory(const std::vector<std::int64_t>& history, Date withDate,
@@ -103,7 +103,7 @@ bool Service::triggerRatingWithModalAlert() {
 bool Service::askByAlert() {
   _platform.application.activateIgnoringOtherApps(true);
   const auto alert = rating::ratingAlert(
-      stringValue(_platform.mainBundle.objectForInfoDictionaryKey(info::kName)));
+      stringValue(infoValue(_platform.info, info::kName)));
   // The host may crash while the alert is up.
   const auto remember = [this] {
     guarded([&] {
@@ -111,16 +111,16 @@ bool Service::askByAlert() {
       _platform.userDefaults.synchronize();
     });
   };
-  const auto answer = _platform.alerts.runModal(alert, remember);
+  const auto answer = _platform.windows.runModal(alert, remember);
   if (!answer) return false;
   if (*answer == platform::kAlertDefaultReturn) openAppstoreForApp();
   guarded(
-      [&] { _storeRateHistory(rating::historyForAnswer(*answer), _platform.clock.now(), true); });
+      [&] { _storeRateHistory(rating::historyForAnswer(*answer), _platform.system.now(), true); });
   return true;
 }
 
 void Service::openAppstoreForApp() {
-  guarded([&] { _platform.workspace.openURL(_endpoints.storePage(_macAppstoreID)); });
+  guarded([&] { _platform.application.openURL(_endpoints.storePage(_macAppstoreID)); });
 }
 
 void Service::rateApp() {
@@ -151,19 +151,18 @@ void Service::bringRateWindowForward() {
 }
 
 bool Service::loadRateWindow(HostWindow* window, CompletitionHandler completitionHandler) {
-  const auto overlay = dim(_platform.rateWindows, window);
+  const auto overlay = dim(_platform.windows, window);
   _rateWindowController = std::make_shared<KVXRateWindowController>(
       _platform, RateWindowLinks{.openAppstoreForApp = [this] { openAppstoreForApp(); },
                                  .openSupportWebPage = [this] { openSupportWebPage(); }});
   const bool loaded = guarded([&] {
     _rateWindowController->setCompletitionHandler(
-        [this, modal = window != nullptr, overlay,
+        [this, overlay,
          completitionHandler =
              std::move(completitionHandler)](KVXRateWindowController& controller) {
-          if (modal) controller.window()->abortModal();
           guarded([&] { fileSession(controller); });
           _rateWindowController = nullptr;
-          guarded([&] { removeAfterAnimation(overlay, _platform.queues.mainQueue()); });
+          guarded([&] { removeAfterAnimation(overlay, _platform.mainQueue); });
           if (completitionHandler) completitionHandler();
         });
     return _rateWindowController->loadWindow();

@@ -1,13 +1,13 @@
 #include "recommend/KVXAppRecommendation.h"
 
 #include "base/Guard.h"
-#include "platform/Files.h"
+#include "platform/System.h"
 
 namespace wrenvale {
 
 KVXAppRecommendation::~KVXAppRecommendation() {
   const TextView path = texts_.get(kMediaPath);
-  if (path && fileManager_) guarded([&] { return fileManager_->removeItemAtPath(*path); });
+  if (path && system_) guarded([&] { return system_->removeItemAtPath(*path); });
 }
 
 KVXAppRecommendation::Text KVXAppRecommendation::text(TextProperty property) const {

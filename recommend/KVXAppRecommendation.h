@@ -26,7 +26,7 @@
 namespace wrenvale {
 
 namespace platform {
-class FileManager;
+class System;
 }
 
 class KVXAppRecommendation final : public Recommendation {
@@ -35,10 +35,10 @@ public:
   /// A picture in the toolkit's own form. Nothing in the framework fills the two slots.
   using Image = std::shared_ptr<const void>;
 
-  /// Every property absent, 0 points. The file manager removes the file at mediaPath() when the
+  /// Every property absent, 0 points. The system removes the file at mediaPath() when the
   /// record goes; it outlives the record. Without one the file stays.
-  explicit KVXAppRecommendation(platform::FileManager* fileManager = nullptr)
-      : fileManager_(fileManager) {}
+  explicit KVXAppRecommendation(platform::System* system = nullptr)
+      : system_(system) {}
   ~KVXAppRecommendation() override;
 
   /// The rank: the higher, the earlier in the list.
@@ -126,7 +126,7 @@ private:
   Image image(ImageProperty property) const;
   void setImage(ImageProperty property, Image image);
 
-  platform::FileManager* const fileManager_;
+  platform::System* const system_;
   std::atomic<std::int64_t> points_ = 0;
   mutable std::mutex mutex_; ///< guards the texts and the images
   PackedTexts<kTextProperties> texts_;

@@ -4,7 +4,6 @@
 #include <string>
 #include <unordered_map>
 
-#include "platform/Random.h"
 #include "recommend/KVXAppRecommendation.h"
 #include "recommend/Trace.h"
 
@@ -15,7 +14,7 @@ namespace {
 /// The comparison of one sorting.
 class Comparison {
 public:
-  explicit Comparison(platform::Random& random)
+  explicit Comparison(const std::function<std::uint32_t()>& random)
       : random_(random) {}
 
   /// Below 0 when `a` comes first, above 0 when `b` does, 0 when they are equal.
@@ -25,11 +24,11 @@ public:
       ++tieBreakCount_;
       return 0;
     }
-    return random_.arc4random() & 1 ? -1 : 1;
+    return random_() & 1 ? -1 : 1;
   }
 
 private:
-  platform::Random& random_;
+  const std::function<std::uint32_t()>& random_;
   /// Counts only once it is above 39, so it stays 0 and every tie is tossed for. That is intended:
   /// ties are random however many there are.
   std::int64_t tieBreakCount_ = 0;
@@ -70,7 +69,7 @@ void mergeSort(std::vector<Entry>& entries, Comparison& compare) {
 
 } // namespace
 
-void sortByPoints(Recommendations& recommendations, platform::Random& random) {
+void sortByPoints(Recommendations& recommendations, const std::function<std::uint32_t()>& random) {
   std::vector<Entry> entries;
   entries.reserve(recommendations.size());
   for (auto& record : recommendations) {

@@ -3,6 +3,8 @@
 #ifndef WRENVALE_RECOMMEND_RANKING_H
 #define WRENVALE_RECOMMEND_RANKING_H
 
+#include <cstdint>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -24,7 +26,7 @@ using Recommendations = std::vector<std::shared_ptr<KVXAppRecommendation>>;
 /// Sorts by points, the highest first. Records with equal points come in random order: every
 /// comparison of two such records is a toss of its own, so the same two may be ordered differently
 /// each time that they meet.
-void sortByPoints(Recommendations& recommendations, platform::Random& random);
+void sortByPoints(Recommendations& recommendations, const std::function<std::uint32_t()>& random);
 
 /// The sorted list with only the first record of each group. A record without a group stays; groups
 /// are compared exactly.

@@ -29,8 +29,8 @@ std::optional<RecommendationList> Service::_getRecommendations() const {
         .isInstalled = [this](auto identifier) { return _isAppInstalledWithBundleID(identifier); },
         .purchaseRecord = [this] { return askPurchaseRecord(); },
         .purchases = [this] { return _platform.userDefaults.objectForKey(keys::kPurchases); },
-        .random = _platform.random,
-        .fileManager = &_platform.fileManager};
+        .random = [this] { return _platform.system.arc4random(); },
+        .system = &_platform.system};
     auto list =
         recommend::recommendations(recommend::RecommenderDocument(std::move(*document)), context);
     if (!list) return std::nullopt;
@@ -40,8 +40,8 @@ std::optional<RecommendationList> Service::_getRecommendations() const {
 
 void Service::_setRecommendations() {
   guarded([&] {
-    _loadQueue->async([this] {
-      _platform.queues.mainQueue().async([this, list = _getRecommendations()]() mutable {
+    _platform.serialQueue.async([this] {
+      _platform.mainQueue.async([this, list = _getRecommendations()]() mutable {
         recommendationsArrived(std::move(list));
       });
     });

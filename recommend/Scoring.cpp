@@ -55,7 +55,7 @@ std::shared_ptr<KVXAppRecommendation> recordOf(const Candidate& candidate, bool 
                                                const Context& context) {
   const auto icon = candidate.icon ? *candidate.icon : "(null)";
   const std::string iconURL = std::string(context.iconBase).append(icon);
-  auto record = std::make_shared<KVXAppRecommendation>(context.fileManager);
+  auto record = std::make_shared<KVXAppRecommendation>(context.system);
   record->reserveText(bytesOfText(candidate) + iconURL.size());
   record->setBundleID(candidate.bundleID);
   record->setName(candidate.name);

@@ -25,7 +25,7 @@ void followAlert(const Recommendation& recommendation, int answer,
                  const platform::Platform& platform) {
   if (answer == platform::kAlertAlternateReturn) return;
   if (const auto destination = welcome::alertDestination(recommendation)) {
-    platform.workspace.openURL(*destination);
+    platform.application.openURL(*destination);
   } else {
     platform.application.beep();
   }
@@ -46,29 +46,26 @@ void KVXRecommenderWindowController::setDelegate(
 }
 
 bool KVXRecommenderWindowController::loadWindow() {
-  _window = _platform.recommenderWindows.makeRecommenderWindow(*this);
+  _window = _platform.windows.makeRecommenderWindow(*this);
   if (!_window) return false;
   windowDidLoad();
   return true;
 }
 
 void KVXRecommenderWindowController::windowDidLoad() {
-  _window->setBackgroundWhite();
-  _window->setWebViewHidden(true);
-  _window->setProgressShown(true);
-  _window->removeAllCachedResponses();
-  _window->setApplicationNameForUserAgent(applicationNameForUserAgent(
-      {_service.appName(), _service.bundleVersion(), _service.appstoreID()}));
-  _window->loadRequest(_endpoints.newsletterPage(countryOrFallback(_platform.locale)),
-                       kPageTimeout);
+  _window->loadRequest(
+      {.url = _endpoints.newsletterPage(countryOrFallback(_platform.locale)),
+       .applicationName = applicationNameForUserAgent(
+           {_service.appName(), _service.bundleVersion(), _service.appstoreID()}),
+       .timeout = kPageTimeout});
 }
 
 void KVXRecommenderWindowController::showWindow() {
-  if (_window) _window->showWindow();
+  if (_window) _window->makeKeyAndOrderFront();
 }
 
 void KVXRecommenderWindowController::cleanup() {
-  if (_window) _window->closeWebView();
+  if (_window) _window->close();
 }
 
 void KVXRecommenderWindowController::setRecommendations(
@@ -81,7 +78,7 @@ void KVXRecommenderWindowController::setRecommendations(
 
 // Always in a later turn, also when called from one of the page's scripts.
 void KVXRecommenderWindowController::_sendRecommendations() {
-  _platform.queues.mainQueue().async([weak = weak_from_this()] {
+  _platform.mainQueue.async([weak = weak_from_this()] {
     if (const auto self = weak.lock()) self->sendRecommendationsNow();
   });
 }
@@ -89,13 +86,13 @@ void KVXRecommenderWindowController::_sendRecommendations() {
 // A page without the function has lost the list for good.
 void KVXRecommenderWindowController::sendRecommendationsNow() {
   if (_recomendationsSent || !_javascriptReady || !_recommendations) return;
-  if (!_window || !_window->hasScriptObject()) return;
+  auto* page = _window ? _window->webView() : nullptr;
+  if (!page) return;
   std::vector<Recommendation::Dictionary> dictionaries;
   for (const auto& recommendation : *_recommendations)
     dictionaries.push_back(recommendation->dictionaryRepresentation());
-  const Value text = prettyPrintedJSON(dictionaries);
-  _recomendationsSent = true;
-  _window->callWebScriptMethod("setRecommendations", {text});
+  _recomendationsSent =
+      page->callWebScriptMethod("setRecommendations", {prettyPrintedJSON(dictionaries)});
 }
 
 // Tried again whenever one of its conditions may have come true.
@@ -105,7 +102,7 @@ void KVXRecommenderWindowController::_displayAlertIfPossible() {
       _recommendations ? welcome::firstWithAlert(*_recommendations) : nullptr;
   if (!recommendation) return;
   const auto alert = welcome::thankYouAlert(*recommendation, _updating, _service.appName(),
-                                            _platform.localization);
+                                            _platform.application);
   _alertDisplayed = true;
   _window->beginSheet(alert, [recommendation, &platform = _platform](int answer) {
     guarded([&] { followAlert(*recommendation, answer, platform); });
@@ -115,7 +112,10 @@ void KVXRecommenderWindowController::_displayAlertIfPossible() {
 void KVXRecommenderWindowController::didClearWindowObject(std::string_view origin) {
   if (!_endpoints.mayReachHost(origin)) return;
   const auto self = shared_from_this();
-  guarded([&] { _window->setScriptObject(welcome::kScriptObject, welcome::scriptMethods()); });
+  guarded([&] {
+    if (auto* page = _window->webView())
+      page->setScriptObject(welcome::kScriptObject, welcome::scriptMethods());
+  });
 }
 
 std::optional<Value>
@@ -130,13 +130,8 @@ platform::PolicyDecision KVXRecommenderWindowController::decidePolicyForNavigati
   const auto self = shared_from_this();
   const auto decision = welcome::decidePolicy(action);
   if (decision == platform::PolicyDecision::kNone)
-    guarded([&] { _platform.workspace.openURL(action.url); });
+    guarded([&] { _platform.application.openURL(action.url); });
   return decision;
-}
-
-platform::PolicyDecision KVXRecommenderWindowController::decidePolicyForNewWindowAction(
-    const platform::NavigationAction& action) {
-  return decidePolicyForNavigationAction(action);
 }
 
 void KVXRecommenderWindowController::didFailProvisionalLoad(const platform::LoadError& error,
@@ -158,7 +153,7 @@ void KVXRecommenderWindowController::showFailure(const platform::LoadError& erro
   const platform::Alert alert{.title = _service.appName(),
                               .messageText = error.description,
                               .informativeText = error.advice,
-                              .defaultButton = localizedText(_platform.localization, "Ok")};
+                              .defaultButton = localizedText(_platform.application, "Ok")};
   _window->beginSheet(alert, [weak = weak_from_this()](int) {
     if (const auto self = weak.lock()) guarded([&] { self->_window->close(); });
   });

@@ -95,8 +95,6 @@ public:
                                           const std::vector<Value>& arguments) override;
   platform::PolicyDecision
   decidePolicyForNavigationAction(const platform::NavigationAction& action) override;
-  platform::PolicyDecision
-  decidePolicyForNewWindowAction(const platform::NavigationAction& action) override;
   void didFailProvisionalLoad(const platform::LoadError& error, bool isMainFrame) override;
   void windowWillClose() override;
 

@@ -5,7 +5,7 @@
 #include "core/Endpoints.h"
 #include "core/LocalizedText.h"
 #include "core/Service.h"
-#include "platform/URLLoading.h"
+#include "platform/Net.h"
 
 namespace wrenvale::welcome {
 
@@ -17,12 +17,12 @@ void deliverSubscription(const std::string& address, const Service& service,
 
 // "subcribe" is the text that hosts translate.
 platform::Alert invalidAddressAlert(std::string_view appName,
-                                    const platform::Localization& localization) {
+                                    const platform::Application& application) {
   return {.title = std::string(appName),
-          .messageText = localizedText(localization, "Invalid email address"),
+          .messageText = localizedText(application, "Invalid email address"),
           .informativeText =
-              localizedText(localization, "Please enter a valid email address to subcribe."),
-          .defaultButton = localizedText(localization, "Ok")};
+              localizedText(application, "Please enter a valid email address to subcribe."),
+          .defaultButton = localizedText(application, "Ok")};
 }
 
 } // namespace wrenvale::welcome

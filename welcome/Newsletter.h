@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "platform/Alerts.h"
+#include "platform/Alert.h"
 
 namespace wrenvale {
 
@@ -14,7 +14,7 @@ class Endpoints;
 class Service;
 
 namespace platform {
-class Localization;
+class Application;
 class URLLoading;
 } // namespace platform
 
@@ -28,7 +28,7 @@ void deliverSubscription(const std::string& address, const Service& service,
 
 /// Tells that an address was refused.
 platform::Alert invalidAddressAlert(std::string_view appName,
-                                    const platform::Localization& localization);
+                                    const platform::Application& application);
 
 } // namespace welcome
 

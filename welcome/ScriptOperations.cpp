@@ -41,8 +41,7 @@ void KVXRecommenderWindowController::javascript_beep() {
 
 void KVXRecommenderWindowController::javascript_showWindow() {
   _platform.application.activateIgnoringOtherApps(true);
-  _window->setProgressShown(false);
-  _window->setWebViewHidden(false);
+  _window->revealWebView();
   _window->makeKeyAndOrderFront();
   _displayAlertIfPossible();
 }
@@ -61,7 +60,7 @@ bool KVXRecommenderWindowController::javascript_subscribe(const Value& address) 
     showInvalidAddress();
     return false;
   }
-  _platform.queues.globalQueue().async([text = text->substr(0, kLongestAddressKept),
+  _platform.globalQueue.async([text = text->substr(0, kLongestAddressKept),
                                         &service = _service, &endpoints = _endpoints,
                                         &urlLoading = _platform.urlLoading] {
     welcome::deliverSubscription(text, service, endpoints, urlLoading);
@@ -72,7 +71,7 @@ bool KVXRecommenderWindowController::javascript_subscribe(const Value& address) 
 // A script that keeps trying while the sheet is up does not pile up sheets.
 void KVXRecommenderWindowController::showInvalidAddress() {
   if (std::exchange(_invalidAddressShown, true)) return;
-  _window->beginSheet(welcome::invalidAddressAlert(_service.appName(), _platform.localization),
+  _window->beginSheet(welcome::invalidAddressAlert(_service.appName(), _platform.application),
                       [weak = weak_from_this()](int) {
                         if (const auto self = weak.lock()) self->_invalidAddressShown = false;
                       });

@@ -14,15 +14,15 @@ std::shared_ptr<const Recommendation> firstWithAlert(const RecommendationList& r
 
 platform::Alert thankYouAlert(const Recommendation& recommendation, bool updating,
                               std::string_view appName,
-                              const platform::Localization& localization) {
-  const auto thanks = localizedText(localization, updating ? "Thank you for updating"
+                              const platform::Application& application) {
+  const auto thanks = localizedText(application, updating ? "Thank you for updating"
                                                            : "Thank you for downloading");
   auto button = recommendation.alertButtonName();
   return {.title = std::string(appName),
           .messageText = thanks + " " + std::string(appName) + "!",
           .informativeText = recommendation.alertText().value_or(""),
-          .defaultButton = button ? std::move(*button) : localizedText(localization, "Ok"),
-          .alternateButton = localizedText(localization, "Cancel")};
+          .defaultButton = button ? std::move(*button) : localizedText(application, "Ok"),
+          .alternateButton = localizedText(application, "Cancel")};
 }
 
 std::optional<std::string> alertDestination(const Recommendation& recommendation) {

@@ -9,12 +9,12 @@
 #include <string_view>
 
 #include "core/Recommendation.h"
-#include "platform/Alerts.h"
+#include "platform/Alert.h"
 
 namespace wrenvale {
 
 namespace platform {
-class Localization;
+class Application;
 }
 
 namespace welcome {
@@ -24,7 +24,7 @@ std::shared_ptr<const Recommendation> firstWithAlert(const RecommendationList& r
 
 /// `recommendation` has alert text. `updating` thanks for an update instead of the download.
 platform::Alert thankYouAlert(const Recommendation& recommendation, bool updating,
-                              std::string_view appName, const platform::Localization& localization);
+                              std::string_view appName, const platform::Application& application);
 
 /// What the alert's default button opens; nothing when there is nothing to open.
 std::optional<std::string> alertDestination(const Recommendation& recommendation);

@@ -48,7 +48,7 @@ void Service::openWelcomeWindow() {
   if (!_recommenderWindowController) {
     const auto controller = loadRecommenderWindow(true, showUpdateWindow());
     if (!controller) return;
-    const auto welcome = localizedText(_platform.localization, "Welcome to");
+    const auto welcome = localizedText(_platform.application, "Welcome to");
     controller->window()->setTitle(welcome + " " + appName());
   }
   _setRecommendations();
@@ -64,7 +64,7 @@ void Service::subscribeToNewsletter() {
     }
     _platform.application.activateIgnoringOtherApps(true);
     controller->window()->setTitle(
-        localizedText(_platform.localization, "Newsletter Subscription"));
+        localizedText(_platform.application, "Newsletter Subscription"));
     controller->showWindow();
   });
 }

@@ -7,37 +7,23 @@
 #include "core/BuildConfiguration.h"
 #include "core/Endpoints.h"
 #include "desktop/net/json/JSONReader.h"
-#include "platform/Random.h"
 #include "recommend/KVXAppRecommendation.h"
 #include "recommend/RecommenderDocument.h"
 #include "recommend/Recommending.h"
 
 namespace wrenvale::benchmark {
 
-namespace {
-
-class SeededRandom final : public platform::Random {
-public:
-  std::uint32_t arc4random() override { return static_cast<std::uint32_t>(engine_()); }
-
-private:
-  std::mt19937 engine_;
-};
-
-} // namespace
-
 std::size_t framework(std::string text) {
   const Endpoints endpoints({.vendorBase = "http://vendor.example",
                              .storeHost = {},
                              .publicKey = {},
                              .vendorSiteName = {}});
-  SeededRandom random;
   const recommend::Context context{.iconBase = endpoints.icon(""),
                                    .host = {.bundleID = kHost, .bundleVersion = kBuild},
                                    .isInstalled = isInstalled,
                                    .purchaseRecord = [] { return false; },
                                    .purchases = [] { return Value(); },
-                                   .random = random};
+                                   .random = std::mt19937()};
   auto parsed = platform::JSONReader().JSONObjectWithData(std::move(text));
   if (!parsed) return 0;
   const recommend::RecommenderDocument document(std::move(*parsed));

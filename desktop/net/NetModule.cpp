@@ -14,8 +14,13 @@ struct Parts {
   CurlURLLoading urlLoading;
   OpenSSLEncryption encryption;
   JSONReader json;
-  NetModule module{.urlLoading = urlLoading, .encryption = encryption, .json = json};
 };
+
+// Never destroyed, since background threads may use it until the process is gone.
+Parts& parts() {
+  static auto& parts = *new Parts;
+  return parts;
+}
 
 } // namespace
 
@@ -24,6 +29,11 @@ struct Parts {
 extern "C" WRENVALE_EXPORT const wrenvale::platform::NetModule* wrenvale_net_module();
 
 extern "C" const wrenvale::platform::NetModule* wrenvale_net_module() {
-  static const auto& parts = *new wrenvale::platform::Parts;
-  return &parts.module;
+  using wrenvale::platform::parts;
+  static const wrenvale::platform::NetModule module{
+      .urlLoading = parts().urlLoading,
+      .encryption = parts().encryption,
+      .json = parts().json,
+      .cancelAllRequests = [] { parts().urlLoading.cancelAllRequests(); }};
+  return &module;
 }

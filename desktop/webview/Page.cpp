@@ -240,7 +240,7 @@ void Page::onNewWindow(const QWebEngineNewWindowRequest& request) {
   if (!delegate_) return;
   const Call call(*this);
   const QUrl url = request.requestedUrl();
-  delegate_->decidePolicyForNewWindowAction(
+  delegate_->decidePolicyForNavigationAction(
       {.url = text(url),
        .mainDocumentURL = text(url),
        .type = remarks_.typeOfNewWindow(url, request.isUserInitiated())});

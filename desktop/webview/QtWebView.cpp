@@ -99,7 +99,7 @@ QWebEngineProfile* makeProfile() {
 
 } // namespace
 
-QtWebView::QtWebView(WebViewDelegate& delegate)
+QtWebView::QtWebView(WebViewDelegate& delegate, const PageRequest& request)
     : profile_(makeProfile())
     , page_(new Page(*profile_, delegate))
     , view_(new View(page_.data())) {
@@ -108,36 +108,24 @@ QtWebView::QtWebView(WebViewDelegate& delegate)
   QObject::connect(page_, &QObject::destroyed, profile_, &QObject::deleteLater);
   destroyBeforeEngine({view_, page_, profile_});
   endBeforeEngine();
+  profile_->setHttpUserAgent(profile_->httpUserAgent() + ' ' + fromUTF8(request.applicationName));
+  page_->start(QUrl(fromUTF8(request.url)), request.timeout);
 }
 
+// The view goes first: it has no use for a page that is on its way out.
 QtWebView::~QtWebView() {
-  close();
-}
-
-void QtWebView::setApplicationNameForUserAgent(std::string_view name) {
-  if (profile_) profile_->setHttpUserAgent(profile_->httpUserAgent() + ' ' + fromUTF8(name));
-}
-
-void QtWebView::loadRequest(std::string_view url, std::chrono::milliseconds timeout) {
-  if (page_) page_->start(QUrl(fromUTF8(url)), timeout);
+  if (view_) view_->deleteLater();
+  if (page_) page_->retire();
 }
 
 void QtWebView::setScriptObject(std::string_view name, const std::vector<ScriptMethod>& methods) {
   if (page_) page_->scriptObject().publish(name, methods);
 }
 
-bool QtWebView::hasScriptObject() const {
-  return page_ && page_->scriptObject().isPublished();
-}
-
-void QtWebView::callWebScriptMethod(std::string_view name, const std::vector<Value>& arguments) {
-  if (page_) page_->runJavaScript(scriptCalling(name, arguments));
-}
-
-// The view goes first: it has no use for a page that is on its way out.
-void QtWebView::close() {
-  if (view_) view_->deleteLater();
-  if (page_) page_->retire();
+bool QtWebView::callWebScriptMethod(std::string_view name, const std::vector<Value>& arguments) {
+  if (!page_ || !page_->scriptObject().isPublished()) return false;
+  page_->runJavaScript(scriptCalling(name, arguments));
+  return true;
 }
 
 } // namespace wrenvale::platform

@@ -8,23 +8,20 @@
 #include <QWebEngineView>
 
 #include "desktop/webview/Page.h"
-#include "platform/WebView.h"
+#include "platform/RecommenderWindow.h"
 
 namespace wrenvale::platform {
 
 /// Each view has a profile of its own, off the record, that goes with its page.
-class QtWebView : public WebView {
+class QtWebView final : public WebView {
 public:
-  explicit QtWebView(WebViewDelegate& delegate);
+  QtWebView(WebViewDelegate& delegate, const PageRequest& request);
+  /// The view goes with it, whoever owns it.
   ~QtWebView() override;
 
-  HostWindow* widget() override { return view_; }
-  void setApplicationNameForUserAgent(std::string_view name) override;
-  void loadRequest(std::string_view url, std::chrono::milliseconds timeout) override;
+  QWidget* widget() { return view_; }
   void setScriptObject(std::string_view name, const std::vector<ScriptMethod>& methods) override;
-  bool hasScriptObject() const override;
-  void callWebScriptMethod(std::string_view name, const std::vector<Value>& arguments) override;
-  void close() override;
+  bool callWebScriptMethod(std::string_view name, const std::vector<Value>& arguments) override;
 
 private:
   // Each may go before this, with the host's windows or with the application object.

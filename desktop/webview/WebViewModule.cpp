@@ -14,10 +14,12 @@ namespace {
 
 class Module final : public WebViewModule {
 public:
-  std::unique_ptr<WebView> makeWebView(WebViewDelegate& delegate) override {
-    if (hasEngineEnded() || (!hasStarted_ && !engineCanStart())) return nullptr;
+  LoadedWebView makeWebView(WebViewDelegate& delegate, const PageRequest& request) override {
+    if (hasEngineEnded() || (!hasStarted_ && !engineCanStart())) return {};
     if (!std::exchange(hasStarted_, true)) chooseDrawing();
-    return std::make_unique<QtWebView>(delegate);
+    auto view = std::make_unique<QtWebView>(delegate, request);
+    auto* widget = view->widget();
+    return {std::move(view), widget};
   }
 
 private:

@@ -8,45 +8,29 @@ namespace {
 
 std::unique_ptr<Menu> weakly(std::weak_ptr<FakeMenu> menu);
 
-class Item final : public MenuItem {
-public:
-  explicit Item(const std::shared_ptr<FakeMenuItem>& item)
-      : item_(item) {}
-
-  std::string title() const override { return item_->title; }
-  void setTitle(std::string_view title) override { item_->title = title; }
-  std::string action() const override { return item_->action; }
-  std::unique_ptr<Menu> submenu() const override {
-    return item_->submenu ? weakly(item_->submenu) : nullptr;
-  }
-
-private:
-  const std::shared_ptr<FakeMenuItem> item_;
-};
-
 class WeakMenu final : public Menu {
 public:
   explicit WeakMenu(std::weak_ptr<FakeMenu> menu)
       : menu_(std::move(menu)) {}
 
-  std::vector<std::unique_ptr<MenuItem>> items() const override {
-    std::vector<std::unique_ptr<MenuItem>> result;
+  std::vector<MenuItem> items() const override {
+    std::vector<MenuItem> result;
     if (const auto menu = menu_.lock())
       for (const auto& item : menu->items)
-        result.push_back(std::make_unique<Item>(item));
+        result.push_back({.title = item->title,
+                          .action = item->action,
+                          .submenu = item->submenu ? weakly(item->submenu) : nullptr,
+                          .setTitle = [item](std::string_view title) { item->title = title; }});
     return result;
   }
 
   void addItem(NewMenuItem item) override {
     if (const auto menu = menu_.lock())
       menu->add({.title = std::move(item.title),
-                 .action = std::move(item.action),
+                 .action = item.action,
                  .keyEquivalent = std::move(item.keyEquivalent),
+                 .separator = item.action.empty(),
                  .choose = std::move(item.choose)});
-  }
-
-  void addSeparator() override {
-    if (const auto menu = menu_.lock()) menu->add({.title = "", .separator = true});
   }
 
 private:

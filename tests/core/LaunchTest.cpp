@@ -22,7 +22,7 @@ TEST_F(Launch, FilesOneRecordForABuildAfterAStoreRating) {
                                          {"110", Value::Array{record({3})}}};
   const Value after = ratingsAfter(before);
   const Value expected = Value::Dictionary{
-      {"History", Value::Array{5}}, {"Triggered", false}, {"Date", fake.clock.now()}};
+      {"History", Value::Array{5}}, {"Triggered", false}, {"Date", fake.system.now()}};
   EXPECT_EQ(after.find("120"), Value(Value::Array{expected}));
   EXPECT_EQ(after.find("100"), before.find("100"));
   EXPECT_EQ(after.find("110"), before.find("110"));
@@ -44,17 +44,14 @@ TEST_F(Launch, LeavesTheRatingsAloneOtherwise) {
     EXPECT_EQ(ratingsAfter(before), before);
 }
 
-TEST_F(Launch, RegistersTheFontAndGoesOnWithoutIt) {
+TEST_F(Launch, BeginsTheResetCheckEvenWithoutTheFont) {
   fake.application.hasFonts = false;
-  start().launchHandler();
-  EXPECT_EQ(fake.application.fonts, std::vector<std::string>{"DroidSans-Regular.ttf"});
-  EXPECT_EQ(fake.queues.global.size(), 1U) << "the reset check is under way";
-}
-
-TEST_F(Launch, CreatingTheServiceOnlyReads) {
   start();
-  EXPECT_TRUE(fake.userDefaults.values.empty());
+  EXPECT_TRUE(fake.userDefaults.values.empty()) << "creating the service only reads";
   EXPECT_EQ(fake.queues.global.size() + fake.queues.main.size() + fake.queues.serial.size(), 0U);
+  service->launchHandler();
+  EXPECT_EQ(fake.application.fonts, std::vector<std::string>{"DroidSans-Regular.ttf"});
+  EXPECT_EQ(fake.queues.global.size(), 1U);
 }
 
 } // namespace

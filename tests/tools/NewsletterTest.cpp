@@ -31,7 +31,7 @@ std::string developmentKey() {
 }
 
 std::string base64For(const std::string& pem, const std::string& text) {
-  const auto block = platform::OpenSSLEncryption().importPublicKey(pem).key->encrypt(text);
+  const auto block = platform::OpenSSLEncryption().importPublicKey(pem).encrypt(text);
   return base64Encoded(block.value_or(""));
 }
 
@@ -43,24 +43,21 @@ public:
     const auto result = client.Get(request.url.substr(path));
     return result ? std::optional(result->body) : std::nullopt;
   }
-  void cancelAllRequests() override {}
 };
 
 // Subscribes as a host does that was built for the server at `port`.
 void subscribe(int port, const std::string& address, const std::string& pem = developmentKey()) {
   platform::FakePlatform fake;
   platform::OpenSSLEncryption encryption;
-  const platform::Platform platform{
-      {fake.mainBundle, fake.userDefaults, fake.locale, fake.kernel, fake.urlLoading, encryption,
-       fake.json, fake.installedApplications, fake.fileManager, fake.clock, fake.random},
-      fake.localization,
-      fake.application,
-      fake.workspace,
-      fake.queues,
-      fake.rateWindows,
-      fake.alerts,
-      fake.recommenderWindows,
-      fake.menus};
+  const platform::Platform platform{{fake.info, fake.userDefaults, fake.system, fake.locale,
+                                     fake.installedApplications, fake.urlLoading, encryption,
+                                     fake.json},
+                                    fake.queues.main,
+                                    fake.queues.global,
+                                    fake.queues.serial,
+                                    fake.application,
+                                    fake.windows,
+                                    fake.menus};
   const BuildConfiguration configuration{.vendorBase = "http://127.0.0.1:" + std::to_string(port),
                                          .storeHost = {},
                                          .publicKey = pem,

@@ -24,8 +24,8 @@ protected:
                           {"apps", Value::Array{app}}};
   }
 
-  platform::FakeRecommenderWindow& window() { return fake.recommenderWindows.window(); }
-  std::size_t windows() const { return fake.recommenderWindows.windows.size(); }
+  platform::FakeRecommenderWindow& window() { return fake.windows.recommenderWindow(); }
+  std::size_t windows() const { return fake.windows.recommenderWindows.size(); }
   std::size_t fetches() const { return fake.urlLoading.requests.size(); }
 };
 
@@ -37,10 +37,8 @@ TEST_F(ServiceWelcome, IsDueOnTheFirstRunAndWhenOwed) {
     const char* document;
   } rows[] = {
       {"first run", {}, {}, true, false, "_F"},
-      {"first run, not owed", {}, false, true, false, "_F"},
       {"first run, owed", {}, true, true, true, "_U"},
       {"later, nothing stored", 120, {}, false, false, ""},
-      {"later, not owed", 120, false, false, false, ""},
       {"later, owed", 119, true, true, true, "_U"},
       {"odd value", 119, Value::Array{true}, false, false, ""},
   };
@@ -106,7 +104,7 @@ TEST_F(ServiceWelcome, AnOpenWindowIsKept) {
 TEST_F(ServiceWelcome, TheNewsletterWindowOwesNothing) {
   serveRecommendations("");
   startLater().subscribeToNewsletter();
-  EXPECT_TRUE(window().visible && window().webViewHidden && window().progressShown);
+  EXPECT_TRUE(window().visible && !window().webViewRevealed);
   EXPECT_EQ(window().title, "Newsletter Subscription");
   EXPECT_EQ(fake.application.activations, 1);
   fake.queues.runAll();
@@ -152,16 +150,16 @@ TEST_F(ServiceWelcome, TheEndSettlesTheDebtAndMakesRoom) {
 }
 
 TEST_F(ServiceWelcome, WithoutWindowsThereIsTheAnswerOnly) {
-  struct Throwing : platform::RecommenderWindows {
+  struct : platform::FakeWindows {
     std::unique_ptr<platform::RecommenderWindow>
     makeRecommenderWindow(platform::RecommenderWindowDelegate&) override {
       throw std::bad_alloc();
     }
   } throwing;
-  const platform::Platform bare{fake.platform,  fake.localization, fake.application,
-                                fake.workspace, fake.queues,       fake.rateWindows,
-                                fake.alerts,    throwing,          fake.menus};
-  fake.recommenderWindows.hasScreen = false;
+  const platform::Platform bare{fake.platform,      fake.queues.main, fake.queues.global,
+                                fake.queues.serial, fake.application, throwing,
+                                fake.menus};
+  fake.windows.hasScreen = false;
   for (const auto* platform : {&fake.platform, &bare}) {
     fake.userDefaults.setObject(true, keys::kShowUpdateWindow);
     Service alone(*platform, {});
@@ -171,7 +169,7 @@ TEST_F(ServiceWelcome, WithoutWindowsThereIsTheAnswerOnly) {
     EXPECT_EQ(fetches(), 0U);
     EXPECT_EQ(stored(keys::kShowUpdateWindow), Value(true));
   }
-  fake.recommenderWindows.hasScreen = true;
+  fake.windows.hasScreen = true;
   EXPECT_TRUE(start().triggerWelcomeWindow());
   EXPECT_EQ(windows(), 1U);
 }

@@ -64,7 +64,7 @@ protected:
     return window();
   }
 
-  platform::FakeRecommenderWindow& window() { return fake.recommenderWindows.window(); }
+  platform::FakeRecommenderWindow& window() { return fake.windows.recommenderWindow(); }
 
   Endpoints endpoints{BuildConfiguration{.vendorBase = "http://vendor.example",
                                          .storeHost = {},

@@ -13,7 +13,7 @@
 #include <vector>
 
 #include "desktop/linux/system/Environment.h"
-#include "platform/Workspace.h"
+#include "platform/System.h"
 
 namespace wrenvale::platform {
 

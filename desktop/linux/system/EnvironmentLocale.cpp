@@ -71,12 +71,6 @@ std::optional<std::string> EnvironmentLocale::countryCode() const {
   return std::string(*region);
 }
 
-std::optional<std::string> EnvironmentLocale::languageCode() const {
-  const auto parts = localeParts(environment_);
-  if (parts.empty()) return std::nullopt;
-  return std::string(parts.front());
-}
-
 std::vector<std::string> EnvironmentLocale::preferredLanguages() const {
   std::vector<std::string> tags;
   auto entries = variable(environment_, "LANGUAGE");
@@ -84,8 +78,8 @@ std::vector<std::string> EnvironmentLocale::preferredLanguages() const {
     auto tag = tagOf(partsOf(takeUpTo(':', entries)));
     if (!tag.empty() && std::ranges::find(tags, tag) == tags.end()) tags.push_back(std::move(tag));
   }
-  if (!tags.empty()) return tags;
-  if (auto language = languageCode()) tags.push_back(*std::move(language));
+  const auto parts = localeParts(environment_);
+  if (tags.empty() && !parts.empty()) tags.emplace_back(parts.front());
   return tags;
 }
 

@@ -12,7 +12,7 @@
 #include <cstdlib>
 
 #include "desktop/linux/system/Environment.h"
-#include "platform/Locale.h"
+#include "platform/System.h"
 
 namespace wrenvale::platform {
 
@@ -23,11 +23,8 @@ public:
   /// The first part after the language that looks like a region: two letters or three digits.
   std::optional<std::string> countryCode() const override;
 
-  /// Nothing for the locales "C" and "POSIX" in any codeset.
-  std::optional<std::string> languageCode() const override;
-
   /// The entries of LANGUAGE as tags ("fr_CH" gives "fr-CH"), each once. When it has none, the
-  /// language of the locale without its region.
+  /// language of the locale without its region; the locales "C" and "POSIX" have none.
   std::vector<std::string> preferredLanguages() const override;
 
 private:

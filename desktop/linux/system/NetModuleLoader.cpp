@@ -29,7 +29,7 @@ std::optional<std::string> NetModuleLoader::sendSynchronousRequest(const URLRequ
 
 void NetModuleLoader::cancelAllRequests() {
   cancelled_ = true;
-  if (const auto* net = module_.load()) net->urlLoading.cancelAllRequests();
+  if (const auto* net = module_.load()) net->cancelAllRequests();
 }
 
 ImportedKey NetModuleLoader::importPublicKey(std::string_view pem) {

@@ -12,9 +12,7 @@
 #include <string>
 
 #include "desktop/NetModule.h"
-#include "platform/Encryption.h"
-#include "platform/JSONSerialization.h"
-#include "platform/URLLoading.h"
+#include "platform/Net.h"
 
 namespace wrenvale::platform {
 
@@ -25,10 +23,12 @@ public:
       : path_(std::move(path)) {}
 
   std::optional<std::string> sendSynchronousRequest(const URLRequest& request) override;
-  /// Loads nothing: without the module no request is under way, and later ones do not load it.
-  void cancelAllRequests() override;
   ImportedKey importPublicKey(std::string_view pem) override;
   std::optional<Value> JSONObjectWithData(std::string data) override;
+
+  /// Requests under way return nothing as soon as they can, later ones at once. Loads nothing:
+  /// without the module no request is under way, and later ones do not load it.
+  void cancelAllRequests();
 
 private:
   const NetModule* module();

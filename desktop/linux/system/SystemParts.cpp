@@ -5,54 +5,52 @@
 #include "desktop/linux/system/DesktopEntries.h"
 #include "desktop/linux/system/EnvironmentLocale.h"
 #include "desktop/linux/system/HostInfo.h"
-#include "desktop/linux/system/LinuxFileManager.h"
-#include "desktop/linux/system/LinuxKernel.h"
-#include "desktop/linux/system/LinuxMainBundle.h"
+#include "desktop/linux/system/LinuxSystem.h"
 #include "desktop/linux/system/NetModuleLoader.h"
-#include "desktop/linux/system/SystemClock.h"
-#include "desktop/linux/system/SystemRandom.h"
 #include "platform/Platform.h"
 
 namespace wrenvale::platform {
 
 namespace {
 
-std::filesystem::path defaultsFileOf(const MainBundle& bundle) {
-  const auto identifier = bundle.objectForInfoDictionaryKey("CFBundleIdentifier");
-  const auto* text = identifier.string();
-  return text ? defaultsFilePath(*text) : std::filesystem::path();
+std::filesystem::path defaultsFileOf(const Value::Dictionary& info) {
+  const auto found = info.find("CFBundleIdentifier");
+  const auto* identifier = found == info.end() ? nullptr : found->second.string();
+  return identifier ? defaultsFilePath(*identifier) : std::filesystem::path();
 }
 
-struct System {
-  LinuxMainBundle mainBundle{hostInfoPlist()};
-  LinuxUserDefaults userDefaults{defaultsFileOf(mainBundle)};
+struct Parts {
+  const Value::Dictionary info = hostInfo();
+  LinuxUserDefaults userDefaults{defaultsFileOf(info)};
+  LinuxSystem system;
   EnvironmentLocale locale;
-  LinuxKernel kernel;
-  NetModuleLoader net{modulePath(kNetModuleFile)};
   DesktopEntries installedApplications;
-  LinuxFileManager fileManager;
-  SystemClock clock;
-  SystemRandom random;
+  NetModuleLoader net{modulePath(kNetModuleFile)};
 
-  const SystemParts parts{.mainBundle = mainBundle,
-                          .userDefaults = userDefaults,
-                          .locale = locale,
-                          .kernel = kernel,
-                          .urlLoading = net,
-                          .encryption = net,
-                          .json = net,
-                          .installedApplications = installedApplications,
-                          .fileManager = fileManager,
-                          .clock = clock,
-                          .random = random};
+  const SystemParts all{.info = info,
+                        .userDefaults = userDefaults,
+                        .system = system,
+                        .locale = locale,
+                        .installedApplications = installedApplications,
+                        .urlLoading = net,
+                        .encryption = net,
+                        .json = net};
 };
+
+// Never destroyed: background work may use the parts until the process is gone.
+Parts& parts() {
+  static auto& parts = *new Parts;
+  return parts;
+}
 
 } // namespace
 
-// Never destroyed: background work may use the parts until the process is gone.
 const SystemParts& builtInSystemParts() {
-  static auto& system = *new System;
-  return system.parts;
+  return parts().all;
+}
+
+void cancelAllRequests() {
+  parts().net.cancelAllRequests();
 }
 
 } // namespace wrenvale::platform

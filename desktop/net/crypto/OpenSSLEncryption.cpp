@@ -72,30 +72,19 @@ std::optional<std::string> encrypted(EVP_PKEY& key, std::string_view plaintext) 
   return block;
 }
 
-class OpenSSLPublicKey final : public PublicKey {
-public:
-  explicit OpenSSLPublicKey(Owned<EVP_PKEY> key)
-      : key_(std::move(key)) {}
-
-  std::optional<std::string> encrypt(std::string_view plaintext) const override {
-    auto block = encrypted(*key_, plaintext);
-    if (!block) ERR_clear_error();
-    return block;
-  }
-
-private:
-  const Owned<EVP_PKEY> key_;
-};
-
 } // namespace
 
 ImportedKey OpenSSLEncryption::importPublicKey(std::string_view pem) {
   setUpCrypto();
   ERR_clear_error();
-  auto key = keyFromPEM(pem);
-  if (!key || !isRSA(*key)) return {.status = takeError(), .key = nullptr};
+  const std::shared_ptr<EVP_PKEY> key = keyFromPEM(pem);
+  if (!key || !isRSA(*key)) return {.status = takeError()};
   ERR_clear_error();
-  return {.status = 0, .key = std::make_unique<OpenSSLPublicKey>(std::move(key))};
+  return {.encrypt = [key](std::string_view plaintext) {
+    auto block = encrypted(*key, plaintext);
+    if (!block) ERR_clear_error();
+    return block;
+  }};
 }
 
 } // namespace wrenvale::platform

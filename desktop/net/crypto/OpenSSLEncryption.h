@@ -3,7 +3,7 @@
 #ifndef WRENVALE_DESKTOP_NET_CRYPTO_OPENSSLENCRYPTION_H
 #define WRENVALE_DESKTOP_NET_CRYPTO_OPENSSLENCRYPTION_H
 
-#include "platform/Encryption.h"
+#include "platform/Net.h"
 
 namespace wrenvale::platform {
 

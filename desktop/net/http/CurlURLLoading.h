@@ -6,7 +6,7 @@
 #include <cstddef>
 #include <stop_token>
 
-#include "platform/URLLoading.h"
+#include "platform/Net.h"
 
 namespace wrenvale::platform {
 
@@ -15,8 +15,7 @@ inline constexpr std::size_t kLongestBody = 16 * 1024 * 1024;
 
 /// What the contract leaves open:
 ///   - Only GET over HTTP/1.1, and only http and https addresses, the redirected ones included. At
-///   most
-///     ten redirections; none leads from https to http.
+///     most ten redirections; none leads from https to http.
 ///   - The heads of one answer may have 256 KiB in all.
 ///   - The proxies are those of the environment ("http_proxy", "no_proxy" and so on), the trusted
 ///     certificates those that OpenSSL finds ("SSL_CERT_FILE", "SSL_CERT_DIR", else the system's).
@@ -25,7 +24,8 @@ inline constexpr std::size_t kLongestBody = 16 * 1024 * 1024;
 class CurlURLLoading final : public URLLoading {
 public:
   std::optional<std::string> sendSynchronousRequest(const URLRequest& request) override;
-  void cancelAllRequests() override { stop_.request_stop(); }
+  /// Requests under way return nothing as soon as they can, later ones at once.
+  void cancelAllRequests() { stop_.request_stop(); }
 
 private:
   std::stop_source stop_;

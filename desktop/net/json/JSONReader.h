@@ -3,7 +3,7 @@
 #ifndef WRENVALE_DESKTOP_NET_JSON_JSONREADER_H
 #define WRENVALE_DESKTOP_NET_JSON_JSONREADER_H
 
-#include "platform/JSONSerialization.h"
+#include "platform/Net.h"
 
 namespace wrenvale::platform {
 

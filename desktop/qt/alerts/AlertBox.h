@@ -5,7 +5,7 @@
 
 #include <QMessageBox>
 
-#include "platform/Alerts.h"
+#include "platform/Alert.h"
 
 namespace wrenvale::platform {
 

@@ -2,15 +2,13 @@
 // since background threads may still use them while the process ends.
 
 #include "desktop/Modules.h"
+#include "desktop/NetModule.h"
 #include "desktop/WebViewModule.h"
-#include "desktop/qt/alerts/QtAlerts.h"
 #include "desktop/qt/app/LaunchEvent.h"
 #include "desktop/qt/app/QtApplication.h"
-#include "desktop/qt/app/QtDesktop.h"
 #include "desktop/qt/app/QtMenus.h"
 #include "desktop/qt/app/QtQueues.h"
-#include "desktop/qt/rate/QtRateWindows.h"
-#include "desktop/qt/recommender/QtRecommenderWindows.h"
+#include "desktop/qt/app/QtWindows.h"
 #include "platform/Platform.h"
 
 namespace wrenvale::platform {
@@ -19,16 +17,14 @@ namespace {
 
 const Platform& makePlatform() {
   const SystemParts& system = builtInSystemParts();
-  auto& queues = *new QtQueues(system.urlLoading);
+  auto& queues = *new QtQueues(cancelAllRequests);
   callWhenLaunched([&queues] { queues.start(); });
   return *new Platform{system,
-                       *new QtLocalization,
+                       queues.mainQueue(),
+                       queues.globalQueue(),
+                       queues.serialQueue(),
                        *new QtApplication(system.userDefaults),
-                       *new QtWorkspace,
-                       queues,
-                       *new QtRateWindows,
-                       *new QtAlerts,
-                       *new QtRecommenderWindows(modulePath(kWebViewModuleFile)),
+                       *new QtWindows(modulePath(kWebViewModuleFile)),
                        *new QtMenus};
 }
 

@@ -1,14 +1,14 @@
 #include "desktop/qt/app/QtApplication.h"
 
-#include <chrono>
+#include <algorithm>
 #include <cstdlib>
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QFontDatabase>
-#include <QGuiApplication>
+#include <QUrl>
 #include <QWidget>
 
-#include "desktop/qt/app/LaunchEvent.h"
 #include "desktop/qt/app/Toolkit.h"
 
 extern "C" {
@@ -29,10 +29,31 @@ QWidget* frontWindow() {
   return nullptr;
 }
 
+bool hasGUI() {
+  return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
+}
+
+// Qt would take other characters too, and encode them.
+bool isASCII(std::string_view text) {
+  return std::all_of(text.begin(), text.end(), [](char c) { return c > ' ' && c < 0x7F; });
+}
+
+// Without a host the rest could be read as an address of another kind.
+bool mayOpen(const QUrl& address) {
+  if (!address.isValid()) return false;
+  if (address.scheme() == QLatin1String("mailto")) return true;
+  for (const char* scheme : {"http", "https", "macappstore"})
+    if (address.scheme() == QLatin1String(scheme)) return !address.host().isEmpty();
+  return false;
+}
+
 } // namespace
 
-void QtApplication::observeDidFinishLaunching(std::function<void()> handler) {
-  callWhenLaunched(std::move(handler));
+bool OpeningLimit::admits(Moment moment) {
+  if (moment < last_[oldest_] + std::chrono::seconds(2)) return false;
+  last_[oldest_] = moment;
+  oldest_ = (oldest_ + 1) % last_.size();
+  return true;
 }
 
 void QtApplication::activateIgnoringOtherApps(bool) {
@@ -47,9 +68,22 @@ void QtApplication::beep() {
   if (hasWindows()) QApplication::beep();
 }
 
+bool QtApplication::openURL(std::string_view url) {
+  if (!hasGUI()) return false;
+  const QUrl address(fromUTF8(url), QUrl::StrictMode);
+  return isASCII(url) && mayOpen(address) && limit_.admits(std::chrono::steady_clock::now()) &&
+         QDesktopServices::openUrl(address);
+}
+
+std::optional<std::string> QtApplication::localizedString(std::string_view key,
+                                                          std::string_view table) const {
+  auto text = translated(std::string(table).c_str(), std::string(key).c_str()).toStdString();
+  return text == key ? std::nullopt : std::optional(std::move(text));
+}
+
 bool QtApplication::registerFont(std::string_view resource, std::string_view extension) {
   if (resource != "DroidSans-Regular" || extension != "ttf") return false;
-  if (!qobject_cast<QGuiApplication*>(QCoreApplication::instance())) return false;
+  if (!hasGUI()) return false;
   const auto data = QByteArray::fromRawData(reinterpret_cast<const char*>(wrenvale_droid_sans),
                                             static_cast<qsizetype>(wrenvale_droid_sans_size));
   return QFontDatabase::addApplicationFontFromData(data) >= 0;

@@ -21,59 +21,44 @@ bool isStandardHelp(const QAction& action) {
   return false;
 }
 
-class QtMenuItem final : public MenuItem {
-public:
-  explicit QtMenuItem(QAction* action)
-      : action_(action) {}
-
-  std::string title() const override { return action_ ? action_->text().toStdString() : ""; }
-  void setTitle(std::string_view title) override {
-    if (action_) action_->setText(fromUTF8(title));
-  }
-  std::string action() const override {
-    return action_ && isStandardHelp(*action_) ? "showHelp:" : "";
-  }
-  std::unique_ptr<Menu> submenu() const override {
-    return action_ ? QtMenus().menu(action_->menu<QMenu*>()) : nullptr;
-  }
-
-private:
-  const QPointer<QAction> action_;
-};
-
 // A menu bar holds actions as a menu does.
 class QtMenu final : public Menu {
 public:
   explicit QtMenu(QWidget* menu)
       : menu_(menu) {}
 
-  std::vector<std::unique_ptr<MenuItem>> items() const override {
-    std::vector<std::unique_ptr<MenuItem>> result;
-    if (!menu_) return result;
-    for (auto* action : menu_->actions())
-      result.push_back(std::make_unique<QtMenuItem>(action));
+  std::vector<MenuItem> items() const override {
+    std::vector<MenuItem> result;
+    if (menu_)
+      for (auto* action : menu_->actions())
+        result.push_back(itemFrom(*action));
     return result;
   }
 
   void addItem(NewMenuItem item) override {
     if (!menu_) return;
     auto* action = new QAction(fromUTF8(item.title), menu_);
+    action->setSeparator(item.action.empty());
     action->setObjectName(fromUTF8(item.action).chopped(1));
     action->setMenuRole(QAction::NoRole);
     if (!item.keyEquivalent.empty()) action->setShortcut("Ctrl+" + fromUTF8(item.keyEquivalent));
-    QObject::connect(action, &QAction::triggered, action,
-                     [action, choose = std::move(item.choose)] { choose(action); });
+    if (item.choose)
+      QObject::connect(action, &QAction::triggered, action,
+                       [action, choose = std::move(item.choose)] { choose(action); });
     menu_->addAction(action);
   }
 
-  void addSeparator() override {
-    if (!menu_) return;
-    auto* separator = new QAction(menu_);
-    separator->setSeparator(true);
-    menu_->addAction(separator);
+private:
+  static MenuItem itemFrom(QAction& action) {
+    auto* submenu = action.menu<QMenu*>();
+    return {.title = action.text().toStdString(),
+            .action = isStandardHelp(action) ? "showHelp:" : "",
+            .submenu = submenu ? std::make_unique<QtMenu>(submenu) : nullptr,
+            .setTitle = [action = QPointer(&action)](std::string_view title) {
+              if (action) action->setText(fromUTF8(title));
+            }};
   }
 
-private:
   const QPointer<QWidget> menu_;
 };
 

@@ -23,10 +23,6 @@ void endStarted() {
 
 } // namespace
 
-std::unique_ptr<Queue> QtQueues::makeSerialQueue() {
-  return std::make_unique<BackgroundQueue>(threads_, 1);
-}
-
 void QtQueues::start() {
   started = this;
   startedBy = getpid();
@@ -37,8 +33,12 @@ void QtQueues::start() {
 
 void QtQueues::end() {
   mainQueue_.close();
-  urlLoading_.cancelAllRequests();
-  threads_.end(kPatienceAtExit);
+  globalQueue_.end();
+  serialQueue_.end();
+  cancelDownloads_();
+  const QDeadlineTimer deadline(kPatienceAtExit);
+  globalQueue_.wait(deadline);
+  serialQueue_.wait(deadline);
 }
 
 } // namespace wrenvale::platform

@@ -1,13 +1,12 @@
-// Shows one face, or none.
+// Shows one of the rate window's faces, or none.
 
 #ifndef WRENVALE_DESKTOP_QT_RATE_FACEVIEW_H
 #define WRENVALE_DESKTOP_QT_RATE_FACEVIEW_H
 
-#include <optional>
+#include <string_view>
 
+#include <QPixmap>
 #include <QWidget>
-
-#include "desktop/qt/rate/Face.h"
 
 namespace wrenvale::platform {
 
@@ -17,14 +16,15 @@ class FaceView : public QWidget {
 public:
   using QWidget::QWidget;
 
-  void setFace(const std::optional<Face>& face);
+  /// Shows the framework's image resource of this name ("smile-0"); none when there is no such one.
+  void showFace(std::string_view name);
   QSize sizeHint() const override { return {132, 132}; }
 
 protected:
   void paintEvent(QPaintEvent* event) override;
 
 private:
-  std::optional<Face> face_;
+  QPixmap picture_; // null for none
 };
 
 } // namespace wrenvale::platform

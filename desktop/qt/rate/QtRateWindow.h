@@ -1,9 +1,13 @@
-// The rate window, as Qt widgets.
+// The rate window: how it is shown above a parent, runs modally and closes.
 
 #ifndef WRENVALE_DESKTOP_QT_RATE_QTRATEWINDOW_H
 #define WRENVALE_DESKTOP_QT_RATE_QTRATEWINDOW_H
 
-#include "platform/RateWindow.h"
+#include <QObject>
+
+#include "desktop/qt/rate/RateWindowWidget.h"
+
+class QEventLoop;
 
 namespace wrenvale::platform {
 
@@ -14,30 +18,33 @@ namespace wrenvale::platform {
 /// A close request of any origin asks the delegate once: the close button, Esc, the window system,
 /// a parent that is hidden, closed or deleted, a host that quits, hides the window or leaves its
 /// event loop. While the delegate answers, the window counts as closing and it is not asked again.
-class QtRateWindow : public RateWindow {
+class QtRateWindow final : public QObject, public RateWindow {
 public:
   /// There is a QApplication. The delegate outlives the window.
-  explicit QtRateWindow(RateWindowDelegate& delegate);
+  QtRateWindow(RateWindowDelegate& delegate, std::string_view appName);
   ~QtRateWindow() override;
 
-  void loadImage(std::int64_t mood, std::string_view name) override;
-  void showImage(std::int64_t mood) override;
-  void addTrackingArea(RateButton button, std::int64_t mode) override;
-  void setAppName(std::string_view appName) override;
+  void showImage(std::string_view name) override;
   void setView(RateView view, bool pushed) override;
 
   void attachToParent(HostWindow* parent) override;
   void makeKeyAndOrderFront() override;
+  void runModal() override;
   void close() override;
 
-  void runModal() override;
-  void abortModal() override;
-
 private:
-  class Session;
+  RateWindowWidget::Events events();
+  void report(RateButton button, bool inside);
+  bool askToClose();
+  void requestClose();
+  void markClosed();
+  void checkLater();
 
-  // Shared with the widget and with what is on the stack, any of which may outlive the window.
-  const std::shared_ptr<Session> session_;
+  RateWindowDelegate* delegate_;       // null once the window is destroyed
+  RateWindowWidget* widget_ = nullptr; // until it is destroyed, by whomever
+  QEventLoop* loop_ = nullptr;         // while runModal() waits in it
+  bool open_ = false;
+  bool asking_ = false;
 };
 
 } // namespace wrenvale::platform

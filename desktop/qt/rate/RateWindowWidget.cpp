@@ -39,9 +39,10 @@ QString withName(QString text, const QString& name) {
 
 } // namespace
 
-RateWindowWidget::RateWindowWidget(Events events)
+RateWindowWidget::RateWindowWidget(Events events, const QString& appName)
     : QWidget(nullptr, kOrdinaryFlags)
     , events_(std::move(events))
+    , appName_(appName)
     , ui_(std::make_unique<Ui::RateWindow>())
     , push_((ui_->setupUi(this), new PushTransition(*ui_->bottomContainerView))) {
   view_ = ui_->bottomContainerView->currentWidget();
@@ -65,11 +66,6 @@ RateWindowWidget::~RateWindowWidget() {
 
 FaceView& RateWindowWidget::imageView() {
   return *ui_->imageView;
-}
-
-void RateWindowWidget::setAppName(const QString& appName) {
-  appName_ = appName;
-  fillInTexts();
 }
 
 void RateWindowWidget::setView(RateView view, bool pushed) {

@@ -39,11 +39,10 @@ public:
 
   /// Reports presses and hovering of buttons in the present view only; hovering only while the
   /// window is active, and no presses while the view is being pushed in.
-  explicit RateWindowWidget(Events events);
+  RateWindowWidget(Events events, const QString& appName);
   ~RateWindowWidget() override;
 
   FaceView& imageView();
-  void setAppName(const QString& appName);
   void setView(RateView view, bool pushed);
 
   /// Gives up the window frame, by which a user could move the window, for a close button of its
@@ -76,13 +75,13 @@ private:
   void returnToPlace();
 
   const Events events_;
+  const QString appName_;
   const std::unique_ptr<Ui::RateWindow> ui_;
   PushTransition* const push_;
   QWidget* view_ = nullptr; ///< the present one; the container shows it only in a while
   const QWidget* underPointer_ = nullptr; ///< one of the buttons
   const QWidget* hovered_ = nullptr;      ///< the one last reported
   QString ownRules_;                      ///< of the layout's style sheet, without the font sizes
-  QString appName_;
   QWidget* parent_ = nullptr;
   int returnsLeft_ = 0;
 };

@@ -1,276 +1,179 @@
 #include "desktop/qt/recommender/QtRecommenderWindow.h"
 
-#include <utility>
-
 #include <QApplication>
+#include <QKeyEvent>
+#include <QPainter>
+
+#include <ui_Recommender.h>
 
 #include "desktop/qt/alerts/AlertBox.h"
 #include "desktop/qt/alerts/SheetAlert.h"
 #include "desktop/qt/app/Toolkit.h"
-#include "desktop/qt/recommender/RecommenderWindowWidget.h"
 #include "desktop/qt/recommender/WebViewModuleLoader.h"
 
 namespace wrenvale::platform {
 
-class QtRecommenderWindow::Session final : public WebViewDelegate,
-                                           public std::enable_shared_from_this<Session> {
-public:
-  Session(RecommenderWindowDelegate& delegate, WebViewModuleLoader& loader)
-      : delegate_(&delegate)
-      , loader_(loader) {}
+namespace {
 
-  void makeWidget();
-  RecommenderWindowWidget* widget() const { return widget_; }
-  WebView* webView() const { return webView_.get(); }
+const Qt::WindowFlags kFlags = Qt::Window | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                               Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                               Qt::WindowCloseButtonHint;
 
-  void loadLater(std::string_view url, std::chrono::milliseconds timeout);
-  void closeWebView();
-  void show();
-  void beginSheet(const Alert& alert, std::function<void(int)> handler);
-  /// Closes the window and ends its page; the delegate is told, once.
-  void close();
-  /// Closes for good; the delegate is not called any more.
-  void end();
+} // namespace
 
-  void didClearWindowObject(std::string_view origin) override;
-  std::optional<Value> invokeScriptMethod(std::string_view name,
-                                          const std::vector<Value>& arguments) override;
-  PolicyDecision decidePolicyForNavigationAction(const NavigationAction& action) override;
-  PolicyDecision decidePolicyForNewWindowAction(const NavigationAction& action) override;
-  void didFailProvisionalLoad(const LoadError& error, bool isMainFrame) override;
-
-  std::string applicationName;
-
-private:
-  void load(const std::string& url, std::chrono::milliseconds timeout);
-  void raiseSheet(const Alert& alert, std::function<void(int)> handler);
-  void checkLater();
-  void check();
-
-  RecommenderWindowDelegate* delegate_; // null once the window is closed
-  WebViewModuleLoader& loader_;
-  RecommenderWindowWidget* widget_ = nullptr; // until it is destroyed, by whomever
-  std::unique_ptr<WebView> webView_;
-  bool mayLoad_ = true;
-  bool shown_ = false;
-  std::vector<std::pair<Alert, std::function<void(int)>>> waiting_; // sheets of a hidden window
-};
-
-void QtRecommenderWindow::Session::makeWidget() {
-  const auto self = shared_from_this();
-  widget_ = new RecommenderWindowWidget({
-      .closed = [self] { self->close(); },
-      .hidden = [self] { self->checkLater(); },
-      .destroyed =
-          [self] {
-            self->widget_ = nullptr;
-            self->checkLater();
-          },
-  });
+QtRecommenderWindow::QtRecommenderWindow(RecommenderWindowDelegate& delegate,
+                                         WebViewModuleLoader& loader)
+    : delegate_(&delegate)
+    , loader_(loader)
+    , ui_(std::make_unique<Ui::Recommender>())
+    , window_(new QWidget(nullptr, kFlags))
+    , frame_((ui_->setupUi(window_), *window_)) {
+  window_->setAttribute(Qt::WA_QuitOnClose, false);
+  ui_->webView->hide(); // an empty place
+  frame_.centre();
+  window_->installEventFilter(this);
+  connect(window_, &QObject::destroyed, this, [this] { checkLater(); });
   // A window of an application object that is gone is of no use in another one's time.
-  QObject::connect(qApp, &QObject::destroyed, [weak = weak_from_this()] {
-    if (const auto session = weak.lock()) session->widget_ = nullptr;
-  });
+  connect(qApp, &QObject::destroyed, this, [this] { window_ = nullptr; });
 }
 
-void QtRecommenderWindow::Session::loadLater(std::string_view url,
-                                             std::chrono::milliseconds timeout) {
+QtRecommenderWindow::~QtRecommenderWindow() {
+  delegate_ = nullptr;
+  close();
+  if (window_) deleteWindowLater(*window_);
+}
+
+void QtRecommenderWindow::setTitle(std::string_view title) {
+  if (window_) window_->setWindowTitle(fromUTF8(title));
+}
+
+void QtRecommenderWindow::loadRequest(const PageRequest& request) {
   QMetaObject::invokeMethod(
-      qApp,
-      [self = shared_from_this(), url = std::string(url), timeout] { self->load(url, timeout); },
-      Qt::QueuedConnection);
+      this, [this, request] { load(request); }, Qt::QueuedConnection);
 }
 
-void QtRecommenderWindow::Session::load(const std::string& url, std::chrono::milliseconds timeout) {
-  if (!mayLoad_ || !widget_) return;
+void QtRecommenderWindow::load(const PageRequest& request) {
+  if (!delegate_ || !window_) return;
   auto* module = loader_.module();
-  webView_ = module ? module->makeWebView(*this) : nullptr;
-  if (!webView_) {
-    const auto text = translated(QT_TRANSLATE_NOOP("Wrenvale", "Web pages cannot be shown here."));
-    return didFailProvisionalLoad({.description = text.toStdString(), .url = url}, true);
+  auto page = module ? module->makeWebView(*delegate_, request) : LoadedWebView();
+  if (page.view) {
+    webView_ = std::move(page.view);
+    return insertWebView(*page.widget);
   }
-  widget_->setWebView(webView_->widget());
-  webView_->setApplicationNameForUserAgent(applicationName);
-  webView_->loadRequest(url, timeout);
+  const auto text = translated(QT_TRANSLATE_NOOP("Wrenvale", "Web pages cannot be shown here."));
+  delegate_->didFailProvisionalLoad({.description = text.toStdString(), .url = request.url}, true);
 }
 
-void QtRecommenderWindow::Session::closeWebView() {
-  mayLoad_ = false;
-  if (webView_) webView_->close();
+// Puts the web view where the layout has room for one. The progress indicator stays above.
+void QtRecommenderWindow::insertWebView(QWidget& view) {
+  view.setObjectName(ui_->webView->objectName());
+  view.setVisible(revealed_);
+  delete window_->layout()->replaceWidget(ui_->webView, &view);
+  delete std::exchange(ui_->webView, &view);
+  view.lower();
 }
 
-void QtRecommenderWindow::Session::show() {
-  if (!widget_) return close();
+void QtRecommenderWindow::revealWebView() {
+  if (!window_) return;
+  revealed_ = true;
+  ui_->progressIndicator->hide();
+  auto* view = window_->findChild<QWidget*>("webView");
+  if (view && webView_) view->show();
+}
+
+bool QtRecommenderWindow::isVisible() const {
+  return window_ && window_->isVisible();
+}
+
+Frame QtRecommenderWindow::frame() const {
+  return window_ ? frame_.frame() : Frame();
+}
+
+Frame QtRecommenderWindow::frameForContentSize(double width, double height) const {
+  if (!window_) return {.x = 0, .y = 0, .width = width, .height = height};
+  return frame_.frameForContentSize(width, height);
+}
+
+void QtRecommenderWindow::setFrame(const Frame& frame, bool animate) {
+  if (window_) frame_.setFrame(frame, animate);
+}
+
+void QtRecommenderWindow::makeKeyAndOrderFront() {
+  if (!window_) return close();
   if (!delegate_) return;
   shown_ = true;
-  widget_->bringToFront();
-  for (auto& [alert, handler] : std::exchange(waiting_, {}))
-    raiseSheet(alert, std::move(handler));
+  if (window_->isMinimized())
+    window_->showNormal();
+  else
+    window_->show();
+  window_->raise();
+  window_->activateWindow();
+  if (auto* webView = window_->findChild<QWidget*>("webView")) webView->setFocus();
+  for (auto& sheet : std::exchange(waiting_, {}))
+    raiseSheet(std::move(sheet));
 }
 
-void QtRecommenderWindow::Session::beginSheet(const Alert& alert,
-                                              std::function<void(int)> handler) {
-  if (!widget_ || !delegate_) return;
-  if (widget_->isVisible())
-    raiseSheet(alert, std::move(handler));
+void QtRecommenderWindow::beginSheet(const Alert& alert, std::function<void(int)> handler) {
+  if (!window_ || !delegate_) return;
+  if (window_->isVisible())
+    raiseSheet({alert, std::move(handler)});
   else
     waiting_.emplace_back(alert, std::move(handler));
 }
 
-void QtRecommenderWindow::Session::raiseSheet(const Alert& alert,
-                                              std::function<void(int)> handler) {
-  auto* box = new AlertBox(alert);
+void QtRecommenderWindow::raiseSheet(Sheet sheet) {
+  auto* box = new AlertBox(sheet.first);
   // The box tells while it is whole: when the sheet ends, it may be half destroyed.
-  const auto answer = std::make_shared<int>(AlertBox::closedAnswer(alert));
-  QObject::connect(box, &QDialog::finished, box, [box, answer] {
+  const auto answer = std::make_shared<int>(AlertBox::closedAnswer(sheet.first));
+  connect(box, &QDialog::finished, box, [box, answer] {
     *answer = box->answer();
     deleteWindowLater(*box);
   });
-  platform::beginSheet(*box, widget_,
-                       [self = shared_from_this(), answer, handler = std::move(handler)](int) {
-                         if (self->delegate_) handler(*answer);
-                       });
+  platform::beginSheet(
+      *box, window_, [self = QPointer(this), answer, handler = std::move(sheet.second)](int) {
+        if (self && self->delegate_) handler(*answer);
+      });
 }
 
-void QtRecommenderWindow::Session::close() {
-  const auto self = shared_from_this();
+// The delegate may let go of the window.
+void QtRecommenderWindow::close() {
   auto* delegate = std::exchange(delegate_, nullptr);
+  const auto page = std::move(webView_); // ends once the delegate knows
   waiting_.clear();
-  if (widget_) widget_->hide();
+  if (window_) window_->hide();
   if (delegate) delegate->windowWillClose();
-  closeWebView();
-}
-
-void QtRecommenderWindow::Session::end() {
-  delegate_ = nullptr;
-  close();
-  if (widget_) deleteWindowLater(*widget_);
 }
 
 // Whatever hid or destroyed the window without closing it left nothing that the user could close.
-void QtRecommenderWindow::Session::checkLater() {
-  if (!delegate_ || !qApp) return;
+void QtRecommenderWindow::checkLater() {
   QMetaObject::invokeMethod(
-      qApp, [self = shared_from_this()] { self->check(); }, Qt::QueuedConnection);
+      this, [this] { check(); }, Qt::QueuedConnection);
 }
 
-void QtRecommenderWindow::Session::check() {
-  if (!widget_ || (shown_ && !widget_->isVisible())) close();
+void QtRecommenderWindow::check() {
+  if (delegate_ && (!window_ || (shown_ && !window_->isVisible()))) close();
 }
 
-void QtRecommenderWindow::Session::didClearWindowObject(std::string_view origin) {
-  const auto self = shared_from_this();
-  if (delegate_) delegate_->didClearWindowObject(origin);
-}
-
-std::optional<Value>
-QtRecommenderWindow::Session::invokeScriptMethod(std::string_view name,
-                                                 const std::vector<Value>& arguments) {
-  const auto self = shared_from_this();
-  return delegate_ ? delegate_->invokeScriptMethod(name, arguments) : std::nullopt;
-}
-
-PolicyDecision
-QtRecommenderWindow::Session::decidePolicyForNavigationAction(const NavigationAction& action) {
-  const auto self = shared_from_this();
-  return delegate_ ? delegate_->decidePolicyForNavigationAction(action) : PolicyDecision::kIgnore;
-}
-
-PolicyDecision
-QtRecommenderWindow::Session::decidePolicyForNewWindowAction(const NavigationAction& action) {
-  const auto self = shared_from_this();
-  return delegate_ ? delegate_->decidePolicyForNewWindowAction(action) : PolicyDecision::kIgnore;
-}
-
-void QtRecommenderWindow::Session::didFailProvisionalLoad(const LoadError& error,
-                                                          bool isMainFrame) {
-  const auto self = shared_from_this();
-  if (delegate_) delegate_->didFailProvisionalLoad(error, isMainFrame);
-}
-
-QtRecommenderWindow::QtRecommenderWindow(RecommenderWindowDelegate& delegate,
-                                         WebViewModuleLoader& loader)
-    : session_(std::make_shared<Session>(delegate, loader)) {
-  session_->makeWidget();
-}
-
-QtRecommenderWindow::~QtRecommenderWindow() {
-  session_->end();
-}
-
-void QtRecommenderWindow::setTitle(std::string_view title) {
-  if (session_->widget()) session_->widget()->setWindowTitle(fromUTF8(title));
-}
-
-void QtRecommenderWindow::setBackgroundWhite() {
-  if (session_->widget()) session_->widget()->setBackgroundWhite();
-}
-
-void QtRecommenderWindow::setWebViewHidden(bool hidden) {
-  if (session_->widget()) session_->widget()->setWebViewHidden(hidden);
-}
-
-void QtRecommenderWindow::setProgressShown(bool shown) {
-  if (session_->widget()) session_->widget()->setProgressShown(shown);
-}
-
-void QtRecommenderWindow::setApplicationNameForUserAgent(std::string_view name) {
-  session_->applicationName = name;
-}
-
-void QtRecommenderWindow::loadRequest(std::string_view url, std::chrono::seconds timeout) {
-  session_->loadLater(url, timeout);
-}
-
-void QtRecommenderWindow::setScriptObject(std::string_view name,
-                                          const std::vector<ScriptMethod>& methods) {
-  if (session_->webView()) session_->webView()->setScriptObject(name, methods);
-}
-
-bool QtRecommenderWindow::hasScriptObject() const {
-  return session_->webView() && session_->webView()->hasScriptObject();
-}
-
-void QtRecommenderWindow::callWebScriptMethod(std::string_view name,
-                                              const std::vector<Value>& arguments) {
-  if (session_->webView()) session_->webView()->callWebScriptMethod(name, arguments);
-}
-
-bool QtRecommenderWindow::isVisible() const {
-  return session_->widget() && session_->widget()->isVisible();
-}
-
-Frame QtRecommenderWindow::frame() const {
-  return session_->widget() ? session_->widget()->frame().frame() : Frame();
-}
-
-Frame QtRecommenderWindow::frameForContentSize(double width, double height) const {
-  if (!session_->widget()) return {.x = 0, .y = 0, .width = width, .height = height};
-  return session_->widget()->frame().frameForContentSize(width, height);
-}
-
-void QtRecommenderWindow::setFrame(const Frame& frame, bool animate) {
-  if (session_->widget()) session_->widget()->frame().setFrame(frame, animate);
-}
-
-void QtRecommenderWindow::showWindow() {
-  session_->show();
-}
-
-void QtRecommenderWindow::makeKeyAndOrderFront() {
-  session_->show();
-}
-
-void QtRecommenderWindow::beginSheet(const Alert& alert, std::function<void(int)> handler) {
-  session_->beginSheet(alert, std::move(handler));
-}
-
-void QtRecommenderWindow::close() {
-  session_->close();
-}
-
-void QtRecommenderWindow::closeWebView() {
-  session_->closeWebView();
+bool QtRecommenderWindow::eventFilter(QObject* watched, QEvent* event) {
+  if (watched != window_) return false;
+  switch (event->type()) {
+  case QEvent::Paint:
+    QPainter(window_).fillRect(window_->rect(), Qt::white);
+    return false;
+  case QEvent::KeyPress:
+    if (!static_cast<QKeyEvent*>(event)->matches(QKeySequence::Close)) return false;
+    window_->close();
+    return true;
+  case QEvent::Hide:
+    if (!event->spontaneous()) checkLater();
+    return false;
+  case QEvent::Close:
+    event->accept();
+    close();
+    return true;
+  default:
+    return false;
+  }
 }
 
 } // namespace wrenvale::platform

@@ -3,55 +3,72 @@
 #ifndef WRENVALE_DESKTOP_QT_RECOMMENDER_QTRECOMMENDERWINDOW_H
 #define WRENVALE_DESKTOP_QT_RECOMMENDER_QTRECOMMENDERWINDOW_H
 
+#include <memory>
+#include <utility>
+#include <vector>
+
+#include <QPointer>
+#include <QWidget>
+
+#include "desktop/qt/app/WindowFrame.h"
 #include "platform/RecommenderWindow.h"
+
+namespace Ui {
+class Recommender;
+}
 
 namespace wrenvale::platform {
 
 class WebViewModuleLoader;
 
-/// A top-level widget of its own. The engine, which takes a moment to start, is left to a later
-/// turn of the event loop than loadRequest().
+/// A top-level widget of its own, in the middle of its screen at first, white whatever the host's
+/// palette and style sheet, and of no influence on when the host quits. The engine, which takes a
+/// moment to start, is left to a later turn of the event loop than loadRequest().
 ///
 /// However the window goes away once it has been shown, be it closed by the user, hidden or
 /// destroyed by the host, it counts as closed. A host that quits does not close it.
-class QtRecommenderWindow : public RecommenderWindow {
+class QtRecommenderWindow final : public QObject, public RecommenderWindow {
 public:
   /// There is a QApplication. Both outlive the window.
   QtRecommenderWindow(RecommenderWindowDelegate& delegate, WebViewModuleLoader& loader);
   ~QtRecommenderWindow() override;
 
   void setTitle(std::string_view title) override;
-  void setBackgroundWhite() override;
-  void setWebViewHidden(bool hidden) override;
-  void setProgressShown(bool shown) override;
-
-  /// Each view has a cache of its own, which begins empty.
-  void removeAllCachedResponses() override {}
-  void setApplicationNameForUserAgent(std::string_view name) override;
-  void loadRequest(std::string_view url, std::chrono::seconds timeout) override;
-
-  void setScriptObject(std::string_view name, const std::vector<ScriptMethod>& methods) override;
-  bool hasScriptObject() const override;
-  void callWebScriptMethod(std::string_view name, const std::vector<Value>& arguments) override;
+  void loadRequest(const PageRequest& request) override;
+  WebView* webView() const override { return webView_.get(); }
+  void revealWebView() override;
 
   bool isVisible() const override;
   Frame frame() const override;
   Frame frameForContentSize(double width, double height) const override;
   void setFrame(const Frame& frame, bool animate) override;
-  void showWindow() override;
   void makeKeyAndOrderFront() override;
 
   /// A sheet of a hidden window comes up with the window.
   void beginSheet(const Alert& alert, std::function<void(int)> handler) override;
-
   void close() override;
-  void closeWebView() override;
+
+protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-  class Session;
+  using Sheet = std::pair<Alert, std::function<void(int)>>;
 
-  // Shared with the widget and with what is on the stack, any of which may outlive the window.
-  const std::shared_ptr<Session> session_;
+  void load(const PageRequest& request);
+  void insertWebView(QWidget& view);
+  void raiseSheet(Sheet sheet);
+  void checkLater();
+  void check();
+
+  RecommenderWindowDelegate* delegate_; // null once the window is closed
+  WebViewModuleLoader& loader_;
+  const std::unique_ptr<Ui::Recommender> ui_;
+  QPointer<QWidget> window_; // the host may destroy it
+  WindowFrame frame_;
+  std::unique_ptr<WebView> webView_;
+  bool revealed_ = false;
+  bool shown_ = false;
+  std::vector<Sheet> waiting_; // until the window is shown
 };
 
 } // namespace wrenvale::platform

@@ -1,4 +1,4 @@
-#include "desktop/linux/system/LinuxKernel.h"
+#include "desktop/linux/system/LinuxSystem.h"
 
 #include <fstream>
 
@@ -38,7 +38,7 @@ TEST(Kernel, ModelIsTheFirstNameThatTheFirmwareStates) {
     const TemporaryFolder root;
     if (row.firmware) root.write(kFirmware, *row.firmware);
     if (row.deviceTree) root.write(kDeviceTree, *row.deviceTree);
-    EXPECT_EQ(LinuxKernel(root.path()).sysctlbyname("hw.model"), row.model) << row.what;
+    EXPECT_EQ(LinuxSystem(root.path()).sysctlbyname("hw.model"), row.model) << row.what;
   }
 }
 
@@ -47,7 +47,7 @@ TEST(Kernel, WhatIsNoFileIsPassedOver) {
   const TemporaryFolder root;
   root.write(kDeviceTree, "Board");
   const auto firmware = root.prepare(kFirmware);
-  const LinuxKernel kernel(root.path());
+  const LinuxSystem kernel(root.path());
 
   ASSERT_EQ(::mkfifo(firmware.c_str(), 0600), 0);
   EXPECT_THAT(kernel.sysctlbyname("hw.model"), Optional("Board"s)) << "pipe";
@@ -63,8 +63,8 @@ TEST(Kernel, ReleaseIsThatOfTheRunningSystem) {
   std::string release;
   std::getline(std::ifstream("/proc/sys/kernel/osrelease"), release);
   if (release.empty()) GTEST_SKIP() << "the system does not show its release elsewhere";
-  EXPECT_THAT(LinuxKernel().sysctlbyname("kern.osrelease"), Optional(release));
-  EXPECT_EQ(LinuxKernel().sysctlbyname("kern.ostype"), std::nullopt);
+  EXPECT_THAT(LinuxSystem().sysctlbyname("kern.osrelease"), Optional(release));
+  EXPECT_EQ(LinuxSystem().sysctlbyname("kern.ostype"), std::nullopt);
 }
 
 } // namespace

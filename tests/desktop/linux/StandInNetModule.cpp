@@ -1,9 +1,7 @@
 // A net module that reaches no network, for the tests of what loads the module.
 
 #include "desktop/NetModule.h"
-#include "platform/Encryption.h"
-#include "platform/JSONSerialization.h"
-#include "platform/URLLoading.h"
+#include "platform/Net.h"
 
 namespace wrenvale::platform {
 namespace {
@@ -14,12 +12,11 @@ struct Loading : URLLoading {
   std::optional<std::string> sendSynchronousRequest(const URLRequest& request) override {
     return cancelled ? "cancelled" : request.url;
   }
-  void cancelAllRequests() override { cancelled = true; }
   bool cancelled = false;
 };
 
 struct StatusFive : Encryption {
-  ImportedKey importPublicKey(std::string_view) override { return {.status = 5, .key = nullptr}; }
+  ImportedKey importPublicKey(std::string_view) override { return {.status = 5}; }
 };
 
 struct Echo : JSONSerialization {
@@ -37,6 +34,9 @@ wrenvale_net_module() {
   static Loading loading;
   static StatusFive encryption;
   static Echo json;
-  static const NetModule module{.urlLoading = loading, .encryption = encryption, .json = json};
+  static const NetModule module{.urlLoading = loading,
+                                .encryption = encryption,
+                                .json = json,
+                                .cancelAllRequests = [] { loading.cancelled = true; }};
   return &module;
 }

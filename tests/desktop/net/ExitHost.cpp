@@ -16,8 +16,7 @@
 #include <thread>
 
 #include "desktop/NetModule.h"
-#include "platform/Encryption.h"
-#include "platform/URLLoading.h"
+#include "platform/Net.h"
 
 using namespace wrenvale::platform;
 
@@ -44,8 +43,8 @@ void workForEver(const char* modulePath, std::string_view address) {
   while (true) {
     if (address.starts_with("http")) {
       parts.urlLoading.sendSynchronousRequest({.url = std::string(address)});
-    } else if (const auto imported = parts.encryption.importPublicKey(address); imported.key) {
-      imported.key->encrypt("email=");
+    } else if (const auto key = parts.encryption.importPublicKey(address); key.encrypt) {
+      key.encrypt("email=");
     }
   }
 }

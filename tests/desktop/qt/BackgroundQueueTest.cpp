@@ -2,6 +2,7 @@
 
 #include <atomic>
 #include <future>
+#include <memory>
 #include <numeric>
 #include <semaphore>
 #include <stdexcept>
@@ -16,8 +17,6 @@ using namespace std::chrono_literals;
 
 class BackgroundQueueTest : public testing::Test {
 protected:
-  ~BackgroundQueueTest() override { threads_.end(10s); }
-
   // A task that says when it has begun, and then waits to be let go.
   Queue::Task held() {
     return [this] {
@@ -32,17 +31,24 @@ protected:
     return true;
   }
 
-  BackgroundThreads threads_;
+  // As in a process: never destroyed, but over before the test is.
+  struct End {
+    void operator()(BackgroundQueue* queue) const { queue->end(), queue->wait(10s); }
+  };
+  static std::unique_ptr<BackgroundQueue, End> queueOf(int width) {
+    return std::unique_ptr<BackgroundQueue, End>(new BackgroundQueue(width));
+  }
+
   std::counting_semaphore<> begun_{0}, gate_{0};
   std::atomic<int> ran_ = 0;
 };
 
 TEST_F(BackgroundQueueTest, RunsAsManyAtOnceAsItIsWide) {
   for (const int width : {1, 3}) {
-    BackgroundQueue queue(threads_, width);
+    const auto queue = queueOf(width);
     ran_ = 0;
     for (int i = 0; i < 10; ++i)
-      queue.async(held());
+      queue->async(held());
     EXPECT_TRUE(begins(width));
     EXPECT_FALSE(begun_.try_acquire_for(20ms)) << "more than " << width;
     gate_.release(10);
@@ -53,13 +59,13 @@ TEST_F(BackgroundQueueTest, RunsAsManyAtOnceAsItIsWide) {
 TEST_F(BackgroundQueueTest, OfWidthOneKeepsItsOrderPastAFailure) {
   std::vector<int> ran;
   std::promise<void> done;
-  BackgroundQueue queue(threads_, 1);
+  const auto queue = queueOf(1);
   for (int i = 0; i < 100; ++i)
-    queue.async([&ran, i] {
+    queue->async([&ran, i] {
       ran.push_back(i);
       if (i % 2) throw std::runtime_error("dropped");
     });
-  queue.async([&] { done.set_value(); });
+  queue->async([&] { done.set_value(); });
   ASSERT_EQ(done.get_future().wait_for(10s), std::future_status::ready);
   std::vector<int> expected(100);
   std::iota(expected.begin(), expected.end(), 0);
@@ -67,31 +73,32 @@ TEST_F(BackgroundQueueTest, OfWidthOneKeepsItsOrderPastAFailure) {
 }
 
 TEST_F(BackgroundQueueTest, DropsWhatComesTooFast) {
-  BackgroundQueue queue(threads_, 1);
-  queue.async(held());
+  const auto queue = queueOf(1);
+  queue->async(held());
   ASSERT_TRUE(begins(1));
   const auto most = BackgroundQueue::kMostWaiting;
   std::size_t counted = 0;
   std::promise<void> full, over;
   for (std::size_t i = 0; i < 3 * most; ++i)
-    queue.async([&] {
+    queue->async([&] {
       if (++counted == most) full.set_value();
     });
   gate_.release();
   ASSERT_EQ(full.get_future().wait_for(10s), std::future_status::ready);
-  queue.async([&] { over.set_value(); });
+  queue->async([&] { over.set_value(); });
   ASSERT_EQ(over.get_future().wait_for(10s), std::future_status::ready);
   EXPECT_EQ(counted, most);
 }
 
-TEST_F(BackgroundQueueTest, BeginsNothingOnceTheThreadsEnd) {
-  BackgroundQueue queue(threads_, 1);
-  queue.async(held());
+TEST_F(BackgroundQueueTest, BeginsNothingOnceItEnds) {
+  const auto queue = queueOf(1);
+  queue->async(held());
   ASSERT_TRUE(begins(1));
-  queue.async([this] { ran_ = 100; });
-  threads_.end(0s);
+  queue->async([this] { ran_ = 100; });
+  queue->end();
+  queue->async([this] { ran_ = 1000; });
   gate_.release();
-  threads_.end(10s);
+  queue->wait(10s);
   EXPECT_EQ(ran_, 1);
 }
 

@@ -1,4 +1,4 @@
-#include "desktop/qt/alerts/QtAlerts.h"
+#include "desktop/qt/app/QtWindows.h"
 
 #include <functional>
 
@@ -66,7 +66,7 @@ TEST(QtAlertsTest, AnswersWithTheButtonOrAsClosed) {
   };
   for (const Row& row : rows) {
     QTimer::singleShot(0, qApp, row.answer);
-    EXPECT_EQ(QtAlerts().runModal(row.alert, [] {}), row.result) << row.name;
+    EXPECT_EQ(QtWindows("").runModal(row.alert, [] {}), row.result) << row.name;
   }
 }
 
@@ -79,7 +79,7 @@ TEST(QtAlertsTest, ShowsTheTextsAsTheyAre) {
     EXPECT_FALSE(box()->testAttribute(Qt::WA_QuitOnClose));
     box()->close();
   });
-  QtAlerts().runModal(kTwo, [] {});
+  QtWindows("").runModal(kTwo, [] {});
 }
 
 TEST(QtAlertsTest, BearTheNameAndBeginWhereTheWindowDoes) {

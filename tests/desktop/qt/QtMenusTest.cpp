@@ -9,7 +9,7 @@
 #include <QTranslator>
 #include <QWidgetAction>
 
-#include "desktop/qt/app/QtDesktop.h"
+#include "desktop/qt/app/QtApplication.h"
 #include "desktop/qt/app/QtMenus.h"
 #include "tests/core/ServiceFixture.h"
 #include "tests/menu/OverAService.h"
@@ -36,18 +36,24 @@ protected:
 
   QAction* item(const char* name) const { return help->findChild<QAction*>(name); }
 
-  QtLocalization localization;
+  /// Translates, and opens addresses nowhere.
+  class Application final : public FakeApplication {
+  public:
+    using FakeApplication::FakeApplication;
+    std::optional<std::string> localizedString(std::string_view key,
+                                               std::string_view table) const override {
+      return real_.localizedString(key, table);
+    }
+
+  private:
+    FakeUserDefaults defaults_;
+    QtApplication real_{defaults_};
+  };
+
+  Application application{fake.system};
   QtMenus menus;
-  const Platform real{{fake.mainBundle, fake.userDefaults, fake.locale, fake.kernel,
-                       fake.urlLoading, fake.encryption, fake.json, fake.installedApplications,
-                       fake.fileManager, fake.clock, fake.random},
-                      localization,
-                      fake.application,
-                      fake.workspace,
-                      fake.queues,
-                      fake.rateWindows,
-                      fake.alerts,
-                      fake.recommenderWindows,
+  const Platform real{fake.platform,      fake.queues.main, fake.queues.global,
+                      fake.queues.serial, application,      fake.windows,
                       menus};
   Service overReal{real, configuration()};
   QWidget window;
@@ -69,9 +75,9 @@ TEST_F(QtMenusTest, EveryItemCanBeChosen) {
             "openSupportWebPageAction - rateOnMacAppStoreAction - subscribeToNewsLetterAction "
             "followOnTwitterAction moreAppsAction - openGeneralSupportAction - "
             "openKVXWebPageAction");
-  EXPECT_EQ(fake.workspace.opened.size(), 5U);
-  EXPECT_EQ(fake.rateWindows.windows.size(), 1U);
-  EXPECT_EQ(fake.recommenderWindows.windows.size(), 1U);
+  EXPECT_EQ(application.opened.size(), 5U);
+  EXPECT_EQ(fake.windows.rateWindows.size(), 1U);
+  EXPECT_EQ(fake.windows.recommenderWindows.size(), 1U);
 }
 
 TEST_F(QtMenusTest, TheKeyForHelpWorks) {
@@ -80,7 +86,7 @@ TEST_F(QtMenusTest, TheKeyForHelpWorks) {
   window.activateWindow();
   ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
   QTest::keyClick(window.windowHandle(), Qt::Key_Question, Qt::ControlModifier);
-  EXPECT_EQ(fake.workspace.opened.size(), 1U);
+  EXPECT_EQ(application.opened.size(), 1U);
 }
 
 TEST_F(QtMenusTest, TheHostsOwnHelpIsRecognised) {
@@ -109,7 +115,7 @@ TEST_F(QtMenusTest, TheHostsOwnHelpIsRecognised) {
 }
 
 TEST_F(QtMenusTest, OnlyTitlesChange) {
-  fake.mainBundle.info["CFBundleName"] = "Cut & Paste";
+  fake.info["CFBundleName"] = "Cut & Paste";
   QPixmap pixels(1, 1);
   pixels.fill(Qt::red);
   auto* about = help->addAction(QIcon(pixels), "&About #app_name\u2026\tF9");
@@ -143,7 +149,7 @@ TEST_F(QtMenusTest, MenusAndControllerGoInAnyOrder) {
   controller->awakeFromNib();
   controller.reset();
   item("moreAppsAction")->trigger();
-  EXPECT_EQ(fake.workspace.opened.size(), 1U);
+  EXPECT_EQ(application.opened.size(), 1U);
 
   controller = makeController();
   delete help;

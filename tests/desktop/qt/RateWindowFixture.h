@@ -17,7 +17,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "desktop/qt/rate/QtRateWindows.h"
+#include "desktop/qt/app/QtWindows.h"
 
 namespace wrenvale::platform {
 
@@ -67,11 +67,11 @@ public:
     calls.push_back("should close");
     return !onClose || onClose();
   }
-  void mouseEntered(std::int64_t mode) override {
-    calls.push_back("entered " + std::to_string(mode));
+  void mouseEntered(RateButton button) override {
+    calls.push_back("entered " + std::to_string(static_cast<int>(button)));
   }
-  void mouseExited(std::int64_t mode) override {
-    calls.push_back("exited " + std::to_string(mode));
+  void mouseExited(RateButton button) override {
+    calls.push_back("exited " + std::to_string(static_cast<int>(button)));
   }
 
   std::vector<std::string> calls;
@@ -81,16 +81,10 @@ public:
 
 class RateWindowFixture : public testing::Test {
 protected:
-  RateWindowFixture() {
-    for (std::int64_t mood = 0; mood < 3; ++mood)
-      window_->loadImage(mood, "smile-" + std::to_string(mood));
-    window_->showImage(0);
-    window_->setAppName("Photo Tool");
-    window_->addTrackingArea(RateButton::kDislike, 1);
-    window_->addTrackingArea(RateButton::kLike, 2);
-    window_->setView(RateView::kRate, false);
-  }
-  ~RateWindowFixture() override {
+  RateWindowFixture() { window_->showImage("smile-0"); }
+  ~RateWindowFixture() override { destroy(); }
+
+  void destroy() {
     window_.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
@@ -133,7 +127,8 @@ protected:
   }
 
   RecordingDelegate delegate_;
-  std::unique_ptr<RateWindow> window_ = QtRateWindows().makeRateWindow(delegate_);
+  QtWindows windows_{""};
+  std::unique_ptr<RateWindow> window_ = windows_.makeRateWindow(delegate_, "Photo Tool");
 };
 
 } // namespace wrenvale::platform

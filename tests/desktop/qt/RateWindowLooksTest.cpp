@@ -69,22 +69,19 @@ protected:
 TEST_F(QtRateWindowLooksTest, EachMoodHasAFaceAndAMissingOneShowsNothing) {
   open();
   const QImage neutral = face();
-  window_->showImage(1);
+  window_->showImage("smile-1");
   const QImage dislike = face();
-  window_->showImage(2);
+  window_->showImage("smile-2");
   const QImage like = face();
   EXPECT_TRUE(neutral != dislike && dislike != like && like != neutral);
   EXPECT_EQ(outlet("imageView").accessibleName(), "Happy face");
 
-  window_->loadImage(5, "smile-5");
-  for (const int missing : {5, 77}) {
-    window_->showImage(missing);
-    const QImage blank = face();
-    QImage white = blank;
-    white.fill(Qt::white);
-    EXPECT_EQ(blank, white) << missing;
-    EXPECT_EQ(outlet("imageView").accessibleName(), "");
-  }
+  window_->showImage("smile-5");
+  const QImage blank = face();
+  QImage white = blank;
+  white.fill(Qt::white);
+  EXPECT_EQ(blank, white);
+  EXPECT_EQ(outlet("imageView").accessibleName(), "");
 }
 
 TEST_F(QtRateWindowLooksTest, IsReadableWhateverTheHostLooksLike) {

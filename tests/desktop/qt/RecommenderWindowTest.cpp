@@ -14,7 +14,7 @@
 #include <QTest>
 
 #include "desktop/qt/app/WindowFrame.h"
-#include "desktop/qt/recommender/QtRecommenderWindows.h"
+#include "desktop/qt/app/QtWindows.h"
 
 namespace wrenvale::platform {
 namespace {
@@ -36,9 +36,6 @@ struct Delegate : RecommenderWindowDelegate {
     return std::nullopt;
   }
   PolicyDecision decidePolicyForNavigationAction(const NavigationAction&) override {
-    return PolicyDecision::kUse;
-  }
-  PolicyDecision decidePolicyForNewWindowAction(const NavigationAction&) override {
     return PolicyDecision::kUse;
   }
   void didFailProvisionalLoad(const LoadError& error, bool isMainFrame) override {
@@ -71,7 +68,7 @@ protected:
   }
 
   Delegate delegate_;
-  QtRecommenderWindows windows_{""};
+  QtWindows windows_{""};
   std::unique_ptr<RecommenderWindow> window_ = windows_.makeRecommenderWindow(delegate_);
 };
 
@@ -82,15 +79,15 @@ TEST_F(RecommenderWindowTest, WithoutAModuleNoPageCanBeFetched) {
                             "ELF and then nothing";
   for (const std::string& path : {std::string(), garbage, garbage + ".missing",
                                   folder.path().toStdString(), std::string("/proc/self/exe")}) {
-    QtRecommenderWindows windows(path);
+    QtWindows windows(path);
     for (const char* url : {"http://first", "http://second"}) {
       delegate_.failures.clear();
       window_ = windows.makeRecommenderWindow(delegate_);
-      window_->loadRequest(url, std::chrono::seconds(1));
+      window_->loadRequest({.url = url, .applicationName = {}});
       EXPECT_TRUE(delegate_.failures.empty()) << path << ": within a call of the window's";
       EXPECT_TRUE(QTest::qWaitFor([&] { return !delegate_.failures.empty(); })) << path;
       EXPECT_EQ(delegate_.failures, std::vector<std::string>{url}) << path;
-      EXPECT_FALSE(window_->hasScriptObject()) << path;
+      EXPECT_EQ(window_->webView(), nullptr) << path;
     }
     window_.reset();
   }
@@ -210,10 +207,7 @@ TEST_F(RecommenderWindowTest, AsksInSheets) {
 
 TEST_F(RecommenderWindowTest, LooksTheSameInEveryHost) {
   qApp->setStyleSheet("* { background: black; color: red; margin: 9px; }");
-  window_->setBackgroundWhite();
   window_->setTitle("Welcome to \xC3\x84pp");
-  window_->setWebViewHidden(true);
-  window_->setProgressShown(true);
   show();
   EXPECT_EQ(widget().windowTitle(), QString("Welcome to \u00C4pp"));
   const auto drawn = [] {
@@ -231,7 +225,7 @@ TEST_F(RecommenderWindowTest, LooksTheSameInEveryHost) {
   EXPECT_LE(spinner.width(), 32);
   const QImage before = widget().grab().toImage();
   EXPECT_TRUE(QTest::qWaitFor([&] { return widget().grab().toImage() != before; })) << "it spins";
-  window_->setProgressShown(false);
+  window_->revealWebView();
   EXPECT_TRUE(drawn().isEmpty());
   qApp->setStyleSheet({});
 }

@@ -68,11 +68,11 @@ TEST_F(LoadingTest, AddressesThatLeadNowhereFail) {
                           std::string(), std::string("qrc:/x"), std::string("chrome://gpu")}) {
     delegate_.calls.clear();
     window_ = windows().makeRecommenderWindow(delegate_);
-    window_->loadRequest(url, std::chrono::seconds(20));
+    window_->loadRequest({.url = url, .applicationName = {}});
     EXPECT_TRUE(waitFor("fail")) << url;
     EXPECT_EQ(failures(), 1) << url;
     EXPECT_THAT(delegate_.advice, testing::StartsWith("Check the connection")) << url;
-    EXPECT_FALSE(window_->hasScriptObject()) << url;
+    EXPECT_FALSE(hasScriptObject()) << url;
   }
 }
 
@@ -151,7 +151,7 @@ TEST_F(LoadingTest, APageWhoseProcessEndsHasFailed) {
   EXPECT_TRUE(waitFor("fail"));
   EXPECT_EQ(failures(), 1);
   EXPECT_EQ(delegate_.advice, "") << "for the connection is not to blame";
-  EXPECT_FALSE(window_->hasScriptObject());
+  EXPECT_FALSE(hasScriptObject());
 }
 
 // That is how a page tells the newsletter window, which is there before it, from the welcome
@@ -161,8 +161,7 @@ TEST_F(LoadingTest, APageKnowsWhetherItsWindowCanBeSeen) {
   site_.page("/", "<script>Recommender.log(outerWidth > 0); Recommender.done()</script>");
   for (const char* isShown : {"false", "true"}) {
     load("/");
-    window_->setWebViewHidden(true);
-    if (isShown == std::string("true")) window_->showWindow();
+    if (isShown == std::string("true")) window_->makeKeyAndOrderFront();
     ASSERT_TRUE(waitFor("done"));
     EXPECT_THAT(told(), testing::ElementsAre(isShown));
   }

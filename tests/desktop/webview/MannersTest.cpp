@@ -19,7 +19,7 @@ protected:
                         "onload = () => requestAnimationFrame(() => requestAnimationFrame("
                         "() => setTimeout(() => Recommender.done(), 50)))</script>");
     load("/");
-    window_->makeKeyAndOrderFront();
+    WebViewTest::show();
     ASSERT_TRUE(waitFor("done"));
   }
   void drag(QPoint from, QPoint to) {
@@ -34,7 +34,7 @@ protected:
   }
   std::string ask(const char* function) {
     delegate_.calls.clear();
-    window_->callWebScriptMethod(function, {});
+    window_->webView()->callWebScriptMethod(function, {});
     EXPECT_TRUE(waitUntil([&] { return !told().empty(); }));
     return told().empty() ? "" : told().front();
   }

@@ -51,7 +51,7 @@ TEST_F(NavigationTest, IsAskedAboutWithItsReason) {
       {"link('/linked').firstChild.click()", {"go 0 /linked"}},
       {"link('#inside').click()", {"go 0 /#inside"}},
       {"link('mailto:a@b.example').click()", {"go 0 mailto:a@b.example"}},
-      {"link('/linked', {target: '_blank'}).click()", {"open 0 /linked"}},
+      {"link('/linked', {target: '_blank'}).click()", {"go 0 /linked"}},
       {"link('/linked', {target: '_top'}).click()", {"go 0 /linked"}},
       {"link('/linked', {target: 'frame'}).click()", {"go 0 /linked in /"}},
       {"link('/linked', {onclick: () => false}).click()", {}},
@@ -74,8 +74,8 @@ TEST_F(NavigationTest, IsAskedAboutWithItsReason) {
       {"location = 'file:///etc/hostname'", {}},
       {"$('form').submit()", {"go 1 /sent?"}},
       {"$('post').submit()", {"go 1 /sent"}},
-      {"$('blank').click()", {"open 0 /linked"}},
-      {"window.open('/other')", {"open 5 /other"}},
+      {"$('blank').click()", {"go 0 /linked"}},
+      {"window.open('/other')", {"go 5 /other"}},
       {"frame.location = '/other'", {"go 5 /other in /"}},
       {"framed('link').click()", {"go 0 /linked in /"}},
       {"framed('top').click()", {"go 0 /linked"}},
@@ -133,32 +133,32 @@ TEST_F(NavigationTest, ClicksOfAPersonLeave) {
   } rows[] = {
       {"<a href='/linked'>", Qt::LeftButton, "go 0 /linked"},
       {"<a href='/linked'>", Qt::LeftButton, "go 0 /linked", Qt::AltModifier},
-      {"<a href='/linked'>", Qt::LeftButton, "open 0 /linked", Qt::ControlModifier},
+      {"<a href='/linked'>", Qt::LeftButton, "go 0 /linked", Qt::ControlModifier},
       {"<a href='mailto:a@b.example'>", Qt::LeftButton, "go 0 mailto:a@b.example", Qt::AltModifier},
       {"<a href='file:///etc/hostname' onclick='setTimeout(() => location = \"/linked\", 100)'>",
        Qt::LeftButton, "go 5 /linked", Qt::AltModifier},
       {"<a href='/linked' download>", Qt::LeftButton, "go 0 /linked"},
       {"<a href='/linked' download target=_blank>", Qt::MiddleButton, "go 0 /linked"},
-      {"<a href='/linked'>", Qt::MiddleButton, "open 0 /linked"},
-      {"<a href='/linked' target=_blank>", Qt::LeftButton, "open 0 /linked"},
-      {"<div onclick='window.open(\"/linked\")'>", Qt::LeftButton, "open 0 /linked"},
+      {"<a href='/linked'>", Qt::MiddleButton, "go 0 /linked"},
+      {"<a href='/linked' target=_blank>", Qt::LeftButton, "go 0 /linked"},
+      {"<div onclick='window.open(\"/linked\")'>", Qt::LeftButton, "go 0 /linked"},
       {"<div onclick='location = \"/linked\"'>", Qt::LeftButton, "go 5 /linked"},
       {"<form target=_blank action=/sent><input type=hidden name=a value=b><button>",
-       Qt::LeftButton, "open 1 /sent?a=b"},
+       Qt::LeftButton, "go 1 /sent?a=b"},
       {"<form target=_blank action=' /sent ' method=post><input type=hidden name=action><button>",
-       Qt::LeftButton, "open 1 /sent"},
-      {"<form target=_blank><button>", Qt::LeftButton, "open 1 /?"},
+       Qt::LeftButton, "go 1 /sent"},
+      {"<form target=_blank><button>", Qt::LeftButton, "go 1 /?"},
       {"<form action=/no><button formtarget=_blank formaction='mailto:a@b.example'>",
-       Qt::LeftButton, "open 1 mailto:a@b.example?"},
+       Qt::LeftButton, "go 1 mailto:a@b.example?"},
       {"<form target=_blank action=/sent onsubmit='submit(); return false'><button formaction=/no>",
-       Qt::LeftButton, "open 1 /sent?"},
+       Qt::LeftButton, "go 1 /sent?"},
       {"<form id=form target=_blank action=/sent></form><div onclick='form.submit()'>",
-       Qt::LeftButton, "open 1 /sent?"},
+       Qt::LeftButton, "go 1 /sent?"},
       {"<form id=form></form><div onclick='form.target = \"w\"; form.requestSubmit()'>",
-       Qt::LeftButton, "open 1 /?"},
+       Qt::LeftButton, "go 1 /?"},
       {"<div id=host></div><script>host.attachShadow({mode: 'open'}).innerHTML = "
        "`<style>*{font:inherit}</style><form target=_blank action=/sent><button>Link`</script>",
-       Qt::LeftButton, "open 1 /sent?"},
+       Qt::LeftButton, "go 1 /sent?"},
       {"<div id=host></div><script>host.attachShadow({mode: 'closed'}).innerHTML = "
        "`<a href=/linked>Link`</script>",
        Qt::LeftButton, "go 0 /linked"},
@@ -167,7 +167,7 @@ TEST_F(NavigationTest, ClicksOfAPersonLeave) {
        Qt::LeftButton, "go 0 /#inside"},
       {"<form action=/linked onsubmit='new FormData(this); return false' "
        "onclick='setTimeout(() => window.open(\"/linked\"), 50)'><button>",
-       Qt::LeftButton, "open 0 /linked"},
+       Qt::LeftButton, "go 0 /linked"},
   };
   for (const auto& row : rows) {
     site_.page("/", "<!DOCTYPE html><body style='margin:0;font-size:300px'>"
@@ -176,7 +176,7 @@ TEST_F(NavigationTest, ClicksOfAPersonLeave) {
                         "Link<script>onload = () => requestAnimationFrame(() => "
                         "requestAnimationFrame(() => Recommender.done()))</script>");
     load("/");
-    window_->makeKeyAndOrderFront();
+    WebViewTest::show();
     ASSERT_TRUE(waitFor("done"));
     delegate_.onDecide = [](const NavigationAction&) { return PolicyDecision::kIgnore; };
     auto* view = widget()->findChild<QWidget*>("webView");

@@ -162,15 +162,15 @@ TEST_F(ScriptObjectTest, CallsThePage) {
     const notAFunction = 1; function fail() { throw new Error }
     Recommender.act();</script>)");
   load("/");
-  EXPECT_FALSE(window_->hasScriptObject());
+  EXPECT_FALSE(hasScriptObject());
   ASSERT_TRUE(waitFor("act"));
-  EXPECT_TRUE(window_->hasScriptObject());
+  EXPECT_TRUE(hasScriptObject());
   const std::string text = "[\"</script>\\ \xE2\x80\xA8 %1 %2 \xF0\x9F\x98\x80\"]";
   for (const char* missing : {"missing", "notAFunction", "fail", "a\"b", "take()"})
-    window_->callWebScriptMethod(missing, {Value("x")});
-  window_->callWebScriptMethod("take", {});
-  window_->callWebScriptMethod("take", {Value(text), Value(), Value(true), Value(7)});
-  window_->callWebScriptMethod("take", {Value(std::string(300'000, 'x'))});
+    window_->webView()->callWebScriptMethod(missing, {Value("x")});
+  window_->webView()->callWebScriptMethod("take", {});
+  window_->webView()->callWebScriptMethod("take", {Value(text), Value(), Value(true), Value(7)});
+  window_->webView()->callWebScriptMethod("take", {Value(std::string(300'000, 'x'))});
   ASSERT_TRUE(waitUntil([&] { return told().size() == 3; }));
   EXPECT_THAT(told(), ElementsAre("[0]", testing::HasSubstr("null,true,7]"), "300006 bytes"));
 }
@@ -179,7 +179,7 @@ TEST_F(ScriptObjectTest, CallsThePage) {
 TEST_F(ScriptObjectTest, IsEachPagesOwn) {
   int pages = 0;
   delegate_.onClear = [&] {
-    if (++pages != 2) window_->setScriptObject("Recommender", methods_);
+    if (++pages != 2) publish();
   };
   const auto next = [](const std::string& path) {
     return "<script>fetch('/is-' + typeof Recommender).then(() => location = '" + path +

@@ -19,7 +19,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include "desktop/qt/recommender/QtRecommenderWindows.h"
+#include "desktop/qt/app/QtWindows.h"
 #include "tests/desktop/net/LoopbackServer.h"
 
 namespace wrenvale::platform {
@@ -100,10 +100,9 @@ public:
     return onInvoke ? onInvoke(name) : Value();
   }
   PolicyDecision decidePolicyForNavigationAction(const NavigationAction& action) override {
-    return decide("go ", action);
-  }
-  PolicyDecision decidePolicyForNewWindowAction(const NavigationAction& action) override {
-    return decide("open ", action);
+    calls.push_back("go " + std::to_string(static_cast<int>(action.type)) + " " + action.url +
+                    (action.url == action.mainDocumentURL ? "" : " in " + action.mainDocumentURL));
+    return onDecide ? onDecide(action) : PolicyDecision::kUse;
   }
   void didFailProvisionalLoad(const LoadError& error, bool isMainFrame) override {
     calls.push_back(isMainFrame ? "fail" : "fail in a frame");
@@ -134,19 +133,12 @@ public:
   std::function<void()> onClear, onFail, onClose;
   std::function<std::optional<Value>(std::string_view)> onInvoke;
   std::function<PolicyDecision(const NavigationAction&)> onDecide;
-
-private:
-  PolicyDecision decide(const char* what, const NavigationAction& action) {
-    calls.push_back(what + std::to_string(static_cast<int>(action.type)) + " " + action.url +
-                    (action.url == action.mainDocumentURL ? "" : " in " + action.mainDocumentURL));
-    return onDecide ? onDecide(action) : PolicyDecision::kUse;
-  }
 };
 
 class WebViewTest : public testing::Test {
 protected:
   WebViewTest() {
-    delegate_.onClear = [this] { window_->setScriptObject("Recommender", methods_); };
+    delegate_.onClear = [this] { publish(); };
   }
   ~WebViewTest() override {
     window_.reset();
@@ -157,8 +149,18 @@ protected:
   void load(const std::string& path, std::chrono::seconds timeout = std::chrono::seconds(20)) {
     delegate_.calls.clear();
     window_ = windows().makeRecommenderWindow(delegate_);
-    window_->setApplicationNameForUserAgent("Photo%20Tool/120 (null)");
-    window_->loadRequest(site_.url(path), timeout);
+    window_->loadRequest({.url = site_.url(path),
+                          .applicationName = "Photo%20Tool/120 (null)",
+                          .timeout = timeout});
+  }
+  void show() {
+    window_->revealWebView();
+    window_->makeKeyAndOrderFront();
+  }
+  void publish() { window_->webView()->setScriptObject("Recommender", methods_); }
+  bool hasScriptObject() const {
+    auto* page = window_->webView();
+    return page && page->callWebScriptMethod("nothing", {});
   }
   /// Has a new window run this script in a page of its own, to its end.
   bool run(const std::string& script) {
@@ -183,8 +185,8 @@ protected:
   }
 
   /// One for the process, as in a host: the engine starts once.
-  static QtRecommenderWindows& windows() {
-    static auto& windows = *new QtRecommenderWindows(WRENVALE_WEBVIEW_MODULE);
+  static QtWindows& windows() {
+    static auto& windows = *new QtWindows(WRENVALE_WEBVIEW_MODULE);
     return windows;
   }
   static QWidget* widget() {

@@ -5,7 +5,6 @@
 
 #include "core/BuildConfiguration.h"
 #include "core/Endpoints.h"
-#include "platform/Random.h"
 #include "recommend/Eligibility.h"
 #include "recommend/RecommenderDocument.h"
 #include "recommend/Recommending.h"
@@ -17,16 +16,6 @@ namespace wrenvale::kit {
 namespace {
 
 using namespace recommend;
-
-class SeededRandom final : public platform::Random {
-public:
-  explicit SeededRandom(std::uint32_t seed)
-      : engine_(seed) {}
-  std::uint32_t arc4random() override { return static_cast<std::uint32_t>(engine_()); }
-
-private:
-  std::mt19937 engine_;
-};
 
 std::string nameOf(Exclusion::Reason reason) {
   switch (reason) {
@@ -128,7 +117,6 @@ std::string iconBaseAt(const std::string& vendorBase) {
 
 Preview previewOf(const Value& document, const PreviewRequest& request) {
   const RecommenderDocument recommender(document);
-  SeededRandom random(request.seed);
   Preview result;
   Account account(result);
   const Value purchases = Value::Array(request.purchased.begin(), request.purchased.end());
@@ -137,8 +125,7 @@ Preview previewOf(const Value& document, const PreviewRequest& request) {
                         .isInstalled = [&](auto id) { return request.installed.contains(id); },
                         .purchaseRecord = [] { return false; },
                         .purchases = [&] { return purchases; },
-                        .random = random,
-                        .fileManager = nullptr,
+                        .random = std::mt19937(request.seed),
                         .trace = &account};
   result.polite = isPolite(recommender, request.host);
   const auto list = recommend::recommendations(recommender, context);

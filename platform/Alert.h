@@ -1,9 +1,8 @@
-// Message boxes.
+// What a message box says, and how it was answered.
 
-#ifndef WRENVALE_PLATFORM_ALERTS_H
-#define WRENVALE_PLATFORM_ALERTS_H
+#ifndef WRENVALE_PLATFORM_ALERT_H
+#define WRENVALE_PLATFORM_ALERT_H
 
-#include <functional>
 #include <optional>
 #include <string>
 
@@ -25,18 +24,6 @@ struct Alert {
   std::string defaultButton;
   std::optional<std::string> alternateButton{};
   std::optional<std::string> otherButton{};
-};
-
-/// Main thread only.
-class Alerts {
-public:
-  virtual ~Alerts() = default;
-
-  /// Calls `willShow`, shows the alert on its own and returns its answer. When the application
-  /// quits meanwhile, the answer is as if the alert had been closed. Nothing, and `willShow` not
-  /// called, in a process without windows to show it in.
-  virtual std::optional<int> runModal(const Alert& alert,
-                                      const std::function<void()>& willShow) = 0;
 };
 
 } // namespace wrenvale::platform

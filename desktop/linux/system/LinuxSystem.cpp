@@ -1,11 +1,20 @@
-#include "desktop/linux/system/LinuxKernel.h"
+#include "desktop/linux/system/LinuxSystem.h"
 
-#include <limits>
+#include <cerrno>
+#include <cstdlib>
 
+#include <sys/random.h>
 #include <sys/utsname.h>
+#include <unistd.h>
 
 #include "desktop/linux/settings/SmallFile.h"
 #include "desktop/linux/system/Text.h"
+
+#if defined(__GLIBC__)
+#define WRENVALE_HAS_ARC4RANDOM __GLIBC_PREREQ(2, 36)
+#else
+#define WRENVALE_HAS_ARC4RANDOM 0
+#endif
 
 namespace wrenvale::platform {
 
@@ -25,20 +34,35 @@ std::optional<std::string> release() {
 
 } // namespace
 
-LinuxKernel::LinuxKernel(std::string root)
+LinuxSystem::LinuxSystem(std::string root)
     : root_(std::move(root)) {}
 
-std::optional<std::string> LinuxKernel::sysctlbyname(std::string_view name) const {
+Date LinuxSystem::now() const {
+  return std::chrono::floor<Date::duration>(std::chrono::system_clock::now());
+}
+
+std::uint32_t LinuxSystem::arc4random() {
+#if WRENVALE_HAS_ARC4RANDOM
+  return ::arc4random();
+#else
+  std::uint32_t number = 0;
+  while (::getrandom(&number, sizeof number, 0) < 0 && errno == EINTR) {
+  }
+  return number;
+#endif
+}
+
+bool LinuxSystem::removeItemAtPath(std::string_view path) {
+  return ::unlink(std::string(path).c_str()) == 0;
+}
+
+std::optional<std::string> LinuxSystem::sysctlbyname(std::string_view name) const {
   if (name == "hw.model") return model();
   if (name == "kern.osrelease") return release();
   return std::nullopt;
 }
 
-double LinuxKernel::appKitVersionNumber() const {
-  return std::numeric_limits<double>::infinity();
-}
-
-std::optional<std::string> LinuxKernel::model() const {
+std::optional<std::string> LinuxSystem::model() const {
   for (const char* file : kModelFiles) {
     const auto content = beginningOfFile((root_ + file).c_str(), kLongestModel);
     if (!content) continue;
