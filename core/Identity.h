@@ -23,8 +23,8 @@ inline constexpr std::string_view kName = "CFBundleName";
 inline constexpr std::string_view kAppstoreID = "Appstore ID";
 } // namespace info
 
-/// The value under `key` in the host's Info dictionary, of whatever type the host gave it; null when
-/// there is none.
+/// The value under `key` in the host's Info dictionary, of whatever type the host gave it; null
+/// when there is none.
 Value infoValue(const Value::Dictionary& info, std::string_view key);
 
 /// "CFBundleName" as the host translates it, else as it stands; nothing when it is no text.

@@ -21,21 +21,16 @@ Service::Service(const platform::Platform& platform, BuildConfiguration configur
                 platform.userDefaults.objectForKey(keys::kRecommenderLastVersion).isNull())
     , _localeSuffix(localeSuffix(platform.locale))
     , _machineModel(platform.system.sysctlbyname("hw.model"))
-    , _macAppstoreID(
-          appstoreIDFromInfo(infoValue(platform.info, info::kAppstoreID))) {}
+    , _macAppstoreID(appstoreIDFromInfo(infoValue(platform.info, info::kAppstoreID))) {}
 
 Service::~Service() = default;
 
 std::optional<std::string> Service::bundleID() const {
-  return guarded([&] {
-    return stringValue(infoValue(_platform.info, info::kIdentifier));
-  });
+  return guarded([&] { return stringValue(infoValue(_platform.info, info::kIdentifier)); });
 }
 
 std::int64_t Service::bundleVersion() const {
-  return guarded([&] {
-    return integerValue(infoValue(_platform.info, info::kVersion));
-  });
+  return guarded([&] { return integerValue(infoValue(_platform.info, info::kVersion)); });
 }
 
 // The key that every per-build record is filed under: 0042 and 42.1 are both build "42".

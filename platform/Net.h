@@ -44,8 +44,8 @@ struct ImportedKey {
   Encrypt encrypt{};       ///< under this key; null when there is no key or no library to use it
 };
 
-/// Public-key encryption. Any thread, several at once; not the main thread, since the first call may
-/// load a library.
+/// Public-key encryption. Any thread, several at once; not the main thread, since the first call
+/// may load a library.
 class Encryption {
 public:
   virtual ~Encryption() = default;

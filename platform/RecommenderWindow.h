@@ -32,8 +32,8 @@ public:
 /// What the window asks the maker's server for.
 struct PageRequest {
   std::string url;
-  std::string applicationName;           ///< what is added to the engine's own user agent
-  std::chrono::seconds timeout{60};      ///< until the page begins to arrive
+  std::string applicationName;      ///< what is added to the engine's own user agent
+  std::chrono::seconds timeout{60}; ///< until the page begins to arrive
 };
 
 /// White, hidden, its web view hidden behind a progress indicator that spins. Main thread only.

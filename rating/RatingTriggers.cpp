@@ -102,8 +102,7 @@ bool Service::triggerRatingWithModalAlert() {
 
 bool Service::askByAlert() {
   _platform.application.activateIgnoringOtherApps(true);
-  const auto alert = rating::ratingAlert(
-      stringValue(infoValue(_platform.info, info::kName)));
+  const auto alert = rating::ratingAlert(stringValue(infoValue(_platform.info, info::kName)));
   // The host may crash while the alert is up.
   const auto remember = [this] {
     guarded([&] {
@@ -157,9 +156,8 @@ bool Service::loadRateWindow(HostWindow* window, CompletitionHandler completitio
                                  .openSupportWebPage = [this] { openSupportWebPage(); }});
   const bool loaded = guarded([&] {
     _rateWindowController->setCompletitionHandler(
-        [this, overlay,
-         completitionHandler =
-             std::move(completitionHandler)](KVXRateWindowController& controller) {
+        [this, overlay, completitionHandler = std::move(completitionHandler)](
+            KVXRateWindowController& controller) {
           guarded([&] { fileSession(controller); });
           _rateWindowController = nullptr;
           guarded([&] { removeAfterAnimation(overlay, _platform.mainQueue); });

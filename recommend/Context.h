@@ -40,9 +40,10 @@ struct Context {
   IsInstalled isInstalled;
   std::function<bool()> purchaseRecord; ///< whether the user bought anything in the host
   std::function<Value()> purchases;     ///< "Purchases": what the host says the user owns
-  std::function<std::uint32_t()> random; ///< breaks ties: any number, all equally likely; never missing
-  platform::System* system = nullptr;    ///< for the records; may be missing
-  Trace* trace = nullptr;                ///< told of every decision; may be missing
+  std::function<std::uint32_t()>
+      random; ///< breaks ties: any number, all equally likely; never missing
+  platform::System* system = nullptr; ///< for the records; may be missing
+  Trace* trace = nullptr;             ///< told of every decision; may be missing
 };
 
 } // namespace recommend

@@ -53,11 +53,10 @@ bool KVXRecommenderWindowController::loadWindow() {
 }
 
 void KVXRecommenderWindowController::windowDidLoad() {
-  _window->loadRequest(
-      {.url = _endpoints.newsletterPage(countryOrFallback(_platform.locale)),
-       .applicationName = applicationNameForUserAgent(
-           {_service.appName(), _service.bundleVersion(), _service.appstoreID()}),
-       .timeout = kPageTimeout});
+  _window->loadRequest({.url = _endpoints.newsletterPage(countryOrFallback(_platform.locale)),
+                        .applicationName = applicationNameForUserAgent(
+                            {_service.appName(), _service.bundleVersion(), _service.appstoreID()}),
+                        .timeout = kPageTimeout});
 }
 
 void KVXRecommenderWindowController::showWindow() {
@@ -101,8 +100,8 @@ void KVXRecommenderWindowController::_displayAlertIfPossible() {
   const auto recommendation =
       _recommendations ? welcome::firstWithAlert(*_recommendations) : nullptr;
   if (!recommendation) return;
-  const auto alert = welcome::thankYouAlert(*recommendation, _updating, _service.appName(),
-                                            _platform.application);
+  const auto alert =
+      welcome::thankYouAlert(*recommendation, _updating, _service.appName(), _platform.application);
   _alertDisplayed = true;
   _window->beginSheet(alert, [recommendation, &platform = _platform](int answer) {
     guarded([&] { followAlert(*recommendation, answer, platform); });

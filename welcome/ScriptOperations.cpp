@@ -60,9 +60,8 @@ bool KVXRecommenderWindowController::javascript_subscribe(const Value& address) 
     showInvalidAddress();
     return false;
   }
-  _platform.globalQueue.async([text = text->substr(0, kLongestAddressKept),
-                                        &service = _service, &endpoints = _endpoints,
-                                        &urlLoading = _platform.urlLoading] {
+  _platform.globalQueue.async([text = text->substr(0, kLongestAddressKept), &service = _service,
+                               &endpoints = _endpoints, &urlLoading = _platform.urlLoading] {
     welcome::deliverSubscription(text, service, endpoints, urlLoading);
   });
   return true;

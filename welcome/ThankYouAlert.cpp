@@ -13,10 +13,9 @@ std::shared_ptr<const Recommendation> firstWithAlert(const RecommendationList& r
 }
 
 platform::Alert thankYouAlert(const Recommendation& recommendation, bool updating,
-                              std::string_view appName,
-                              const platform::Application& application) {
-  const auto thanks = localizedText(application, updating ? "Thank you for updating"
-                                                           : "Thank you for downloading");
+                              std::string_view appName, const platform::Application& application) {
+  const auto thanks =
+      localizedText(application, updating ? "Thank you for updating" : "Thank you for downloading");
   auto button = recommendation.alertButtonName();
   return {.title = std::string(appName),
           .messageText = thanks + " " + std::string(appName) + "!",

@@ -63,8 +63,7 @@ void Service::subscribeToNewsletter() {
       _setRecommendations();
     }
     _platform.application.activateIgnoringOtherApps(true);
-    controller->window()->setTitle(
-        localizedText(_platform.application, "Newsletter Subscription"));
+    controller->window()->setTitle(localizedText(_platform.application, "Newsletter Subscription"));
     controller->showWindow();
   });
 }

@@ -30,14 +30,14 @@ struct FakePlatform {
   FakeWindows windows;
   FakeMenus menus;
 
-  const Platform platform{{info, userDefaults, system, locale, installedApplications, urlLoading,
-                           encryption, json},
-                          queues.main,
-                          queues.global,
-                          queues.serial,
-                          application,
-                          windows,
-                          menus};
+  const Platform platform{
+      {info, userDefaults, system, locale, installedApplications, urlLoading, encryption, json},
+      queues.main,
+      queues.global,
+      queues.serial,
+      application,
+      windows,
+      menus};
 };
 
 } // namespace wrenvale::platform

@@ -16,8 +16,8 @@
 
 namespace wrenvale::platform {
 
-/// What there is to see of one rate window. Stays readable when the window itself is destroyed; what
-/// the user does to it then reaches nobody.
+/// What there is to see of one rate window. Stays readable when the window itself is destroyed;
+/// what the user does to it then reaches nobody.
 struct FakeRateWindow {
   /// Presses a button, be its view the present one or on its way out.
   void press(RateButton button);

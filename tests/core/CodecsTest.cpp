@@ -30,7 +30,7 @@ TEST(Base32, DecodesExactEncodingsOnly) {
       {"MZXW6YQ", "foob"},
       {"MZXW6YTBOI", "foobar"},
       {"77777777", "\xFF\xFF\xFF\xFF\xFF"},
-      {"MZ", std::nullopt},   // left-over bits
+      {"MZ", std::nullopt}, // left-over bits
       {"MZXW6YR", std::nullopt},
       {"M", std::nullopt}, // lengths that no bytes encode to
       {"MZX", std::nullopt},

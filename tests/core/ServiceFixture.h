@@ -17,9 +17,9 @@ class ServiceTest : public testing::Test {
 protected:
   ServiceTest() {
     fake.info = {{"CFBundleIdentifier", "com.example.host"},
-                            {"CFBundleVersion", "120"},
-                            {"CFBundleName", "Photo Tool"},
-                            {"Appstore ID", 123456789}};
+                 {"CFBundleVersion", "120"},
+                 {"CFBundleName", "Photo Tool"},
+                 {"Appstore ID", 123456789}};
   }
 
   /// Starts a process of the host: a new service over the same world.

@@ -83,9 +83,9 @@ TEST_F(ControllerTest, TheHelpMenuGetsItsItemsAtItsEnd) {
 TEST_F(ControllerTest, TitlesAreTheHostsTranslations) {
   fake.application.strings = {{{"InfoPlist", "CFBundleName"}, "Fotowerkzeug"},
                               {{"Wrenvale", "Help"}, "&Hilfe"},
-                               {{"Wrenvale", "Support"}, "Hilfe zu #app_name"},
-                               {{"Wrenvale", "Visit vendor.example"}, "vendor.example besuchen"},
-                               {{"Other", "Follow on Twitter"}, "not this one"}};
+                              {{"Wrenvale", "Support"}, "Hilfe zu #app_name"},
+                              {{"Wrenvale", "Visit vendor.example"}, "vendor.example besuchen"},
+                              {{"Other", "Follow on Twitter"}, "not this one"}};
   mainMenu->add({.title = "Hilfe", .submenu = helpMenu});
   makeController()->awakeFromNib();
   EXPECT_THAT(helpMenu->titles(),

@@ -17,14 +17,10 @@ TEST(RecommenderDocument, ReadsTextFromWhateverStandsThere) {
     const char* value;
     Optional text;
   } rows[] = {
-      {R"("Alpha")", "Alpha"},
-      {R"("")", ""},
-      {R"(" a\n")", " a\n"},
-      {"-3", "-3"},
-      {"1e300", "1e+300"},
-      {"-2.2250738585072014e-308", "-2.2250738585072014e-308"},
-      {"true", std::nullopt},
-      {"null", std::nullopt},
+      {R"("Alpha")", "Alpha"},    {R"("")", ""},
+      {R"(" a\n")", " a\n"},      {"-3", "-3"},
+      {"1e300", "1e+300"},        {"-2.2250738585072014e-308", "-2.2250738585072014e-308"},
+      {"true", std::nullopt},     {"null", std::nullopt},
       {R"(["a"])", std::nullopt},
   };
   for (const auto& row : rows) {

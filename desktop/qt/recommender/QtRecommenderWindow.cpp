@@ -129,10 +129,10 @@ void QtRecommenderWindow::raiseSheet(Sheet sheet) {
     *answer = box->answer();
     deleteWindowLater(*box);
   });
-  platform::beginSheet(
-      *box, window_, [self = QPointer(this), answer, handler = std::move(sheet.second)](int) {
-        if (self && self->delegate_) handler(*answer);
-      });
+  platform::beginSheet(*box, window_,
+                       [self = QPointer(this), answer, handler = std::move(sheet.second)](int) {
+                         if (self && self->delegate_) handler(*answer);
+                       });
 }
 
 // The delegate may let go of the window.

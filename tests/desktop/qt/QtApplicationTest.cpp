@@ -75,7 +75,7 @@ TEST(OpeningLimitTest, AdmitsFiveWithinTwoSeconds) {
     int at; // milliseconds since an arbitrary moment; what is refused does not count
     bool admitted;
   } rows[] = {
-      {0, true},     {100, true},  {200, true}, {300, true},  {400, true},   {400, false},
+      {0, true},     {100, true},  {200, true},  {300, true},   {400, true},  {400, false},
       {1999, false}, {2000, true}, {2100, true}, {2199, false}, {2250, true},
   };
   OpeningLimit limit;

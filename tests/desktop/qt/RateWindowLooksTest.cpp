@@ -1,68 +1,15 @@
 #include "RateWindowFixture.h"
 
-#include <cmath>
-#include <map>
-
 #include <QLabel>
 #include <QTranslator>
 
-#include "desktop/qt/rate/KVXButton.h"
-
 namespace wrenvale::platform {
 namespace {
-
-// As WCAG defines them.
-double luminance(QColor color) {
-  const auto linear = [](double part) {
-    return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) +
-         0.0722 * linear(color.blueF());
-}
-
-double contrast(QColor one, QColor other) {
-  const double a = luminance(one) + 0.05;
-  const double b = luminance(other) + 0.05;
-  return std::max(a, b) / std::min(a, b);
-}
-
-// Between the surface, which is most of what is in the middle, and what differs most from it.
-double contrastOfText(const QWidget& widget) {
-  const QRect middle = widget.rect().adjusted(12, 6, -12, -6);
-  const QImage image =
-      widget.window()
-          ->grab(QRect(widget.mapTo(widget.window(), middle.topLeft()), middle.size()))
-          .toImage();
-  std::map<QRgb, int> counts;
-  for (int y = 0; y < image.height(); ++y)
-    for (int x = 0; x < image.width(); ++x)
-      ++counts[image.pixel(x, y)];
-  const QRgb surface =
-      std::max_element(counts.begin(), counts.end(), [](const auto& a, const auto& b) {
-        return a.second < b.second;
-      })->first;
-  double most = 1;
-  for (const auto& [color, count] : counts)
-    most = std::max(most, contrast(color, surface));
-  return most;
-}
 
 class QtRateWindowLooksTest : public RateWindowFixture {
 protected:
   QImage picture() { return widget()->grab().toImage(); }
   QImage face() { return widget()->grab(outlet("imageView").geometry()).toImage(); }
-  void expectReadable(const char* circumstances) {
-    EXPECT_EQ(picture().pixelColor(3, 3), QColor(Qt::white)) << circumstances;
-    for (const auto view : {RateView::kRate, RateView::kAppstore, RateView::kContact}) {
-      window_->setView(view, false);
-      for (const auto* text : widget()->findChildren<QWidget*>()) {
-        if (!text->isVisible() || !(qobject_cast<const QLabel*>(text) || isButton(*text))) continue;
-        EXPECT_GE(contrastOfText(*text), 4.5)
-            << circumstances << ": " << text->objectName().toStdString();
-      }
-    }
-    window_->setView(RateView::kRate, false);
-  }
   static bool isButton(const QWidget& widget) { return qobject_cast<const QPushButton*>(&widget); }
 };
 
@@ -84,22 +31,14 @@ TEST_F(QtRateWindowLooksTest, EachMoodHasAFaceAndAMissingOneShowsNothing) {
   EXPECT_EQ(outlet("imageView").accessibleName(), "");
 }
 
-TEST_F(QtRateWindowLooksTest, IsReadableWhateverTheHostLooksLike) {
-  open();
-  expectReadable("light");
-  const QPalette before = QApplication::palette();
-  QApplication::setPalette(QPalette(QColor(50, 50, 54), QColor(30, 30, 32)));
-  expectReadable("dark palette");
-  QApplication::setPalette(before);
-  qApp->setStyleSheet("* { background: #202020; color: #f0f0f0; padding: 9px; }");
-  expectReadable("dark style sheet");
-  qApp->setStyleSheet({});
-}
-
-TEST_F(QtRateWindowLooksTest, AStyleSheetOfTheHostsChangesNothing) {
+TEST_F(QtRateWindowLooksTest, NoPaletteOrStyleSheetOfTheHostsChangesAnything) {
   QWidget parent;
   openOver(parent);
   const QImage without = picture();
+  const QPalette before = QApplication::palette();
+  QApplication::setPalette(QPalette(QColor(50, 50, 54), QColor(30, 30, 32)));
+  EXPECT_EQ(picture(), without);
+  QApplication::setPalette(before);
   for (const char* sheet :
        {"QPushButton { min-width: 80px; text-decoration: underline; }",
         "* { padding: 9px; font: bold 20pt; min-height: 50px; max-width: 90px; }",
@@ -144,7 +83,7 @@ TEST_F(QtRateWindowLooksTest, ItsBorderIsEvenAtEveryScale) {
   }
 }
 
-TEST_F(QtRateWindowLooksTest, EveryStateOfAButtonIsReadableAndDifferent) {
+TEST_F(QtRateWindowLooksTest, EveryStateOfAButtonLooksDifferent) {
   const std::pair<const char*, std::function<void(QPushButton&)>> states[] = {
       {"hover", [](QPushButton& button) { button.setAttribute(Qt::WA_UnderMouse); }},
       {"pressed", [](QPushButton& button) { button.setDown(true); }},
@@ -154,11 +93,12 @@ TEST_F(QtRateWindowLooksTest, EveryStateOfAButtonIsReadableAndDifferent) {
   open();
   for (const char* name : {"likeButton", "dislikeButton"}) {
     auto& button = static_cast<QPushButton&>(outlet(name));
-    const QImage normal = button.grab().toImage();
+    std::vector<QImage> seen = {button.grab().toImage()};
     for (const auto& [state, enter] : states) {
       enter(button);
-      EXPECT_NE(button.grab().toImage(), normal) << name << ' ' << state;
-      EXPECT_GE(contrastOfText(button), 4.5) << name << ' ' << state;
+      const auto image = button.grab().toImage();
+      EXPECT_EQ(std::count(seen.begin(), seen.end(), image), 0) << name << ' ' << state;
+      seen.push_back(image);
       button.setAttribute(Qt::WA_UnderMouse, false);
       button.setDown(false);
       button.setEnabled(true);

@@ -129,11 +129,6 @@ TEST_F(QtRateWindowTest, TextsHaveTheNameAsItIs) {
     EXPECT_EQ(label->textFormat(), Qt::PlainText) << label->text().toStdString();
     EXPECT_FALSE(label->text().contains("%1")) << label->text().toStdString();
   }
-  for (const auto* button : widget()->findChildren<QPushButton*>()) {
-    EXPECT_FALSE(button->text().isEmpty());
-    EXPECT_EQ(button->accessibleDescription().isEmpty(), button->isFlat());
-    EXPECT_EQ(button->cursor().shape(), Qt::PointingHandCursor);
-  }
 }
 
 TEST_F(QtRateWindowTest, StaysInTheMiddleOfItsParent) {
@@ -176,7 +171,7 @@ TEST(DimmingOverlayTest, CoversItsParentAndGoesWithIt) {
   EXPECT_EQ(parent.grab().toImage().pixelColor(480, 380), QColor(Qt::white));
 }
 
-TEST(DimmingOverlayTest, CompletionsNeedNoParentAndNoAnimation) {
+TEST(DimmingOverlayTest, CompletionsNeedNoParent) {
   int completions = 0;
   const auto count = [&completions] { ++completions; };
   auto parent = std::make_unique<QWidget>();
@@ -189,10 +184,6 @@ TEST(DimmingOverlayTest, CompletionsNeedNoParentAndNoAnimation) {
   EXPECT_EQ(completions, 1);
   QtWindows("").makeOverlay(nullptr)->animateAlpha(0.3, count);
   EXPECT_EQ(completions, 2);
-  const StillDesktop still;
-  QWidget other;
-  QtWindows("").makeOverlay(&other)->animateAlpha(0.3, count);
-  EXPECT_EQ(completions, 3);
 }
 
 } // namespace

@@ -149,9 +149,8 @@ protected:
   void load(const std::string& path, std::chrono::seconds timeout = std::chrono::seconds(20)) {
     delegate_.calls.clear();
     window_ = windows().makeRecommenderWindow(delegate_);
-    window_->loadRequest({.url = site_.url(path),
-                          .applicationName = "Photo%20Tool/120 (null)",
-                          .timeout = timeout});
+    window_->loadRequest(
+        {.url = site_.url(path), .applicationName = "Photo%20Tool/120 (null)", .timeout = timeout});
   }
   void show() {
     window_->revealWebView();
