@@ -186,8 +186,7 @@ TEST(PropertyList, survivesMalformedAndMaliciousLists) {
 }
 
 TEST(PropertyList, readsWhatOtherWritersKeep) {
-  const std::string zeros(8, '\0');
-  const auto unsignedInteger = "\x14" + zeros + "\x80" + zeros.substr(1);
+  const std::string unsignedInteger("\x14\0\0\0\0\0\0\0\0\x80\0\0\0\0\0\0\0", 17);
   const auto read = [](const std::vector<std::string>& objects) {
     return valueFromPropertyList(binaryList(objects));
   };
