@@ -25,13 +25,13 @@ struct Run {
 class Home {
 public:
   /// Runs a program to its end as this user, in an American English locale and without a display.
-  Run run(const std::string& program, std::vector<std::string> arguments = {},
+  Run run(const std::string& program, const std::vector<std::string>& arguments = {},
           const std::map<std::string, std::string>& environment = {}) const;
 
   std::filesystem::path folder() const { return folder_.path(); }
-  std::filesystem::path settings(const std::string& identifier) const;
   /// The settings as they are on disk; null when there is no readable file.
   Value defaults(const std::string& identifier) const;
+  void setDefaults(const std::string& identifier, const Value::Dictionary& settings) const;
 
 private:
   platform::TemporaryFolder folder_;

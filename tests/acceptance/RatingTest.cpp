@@ -46,7 +46,6 @@ TEST(Rating, SessionsAreOnRecord) {
       {"ask,dislike,contact,ask,status,quit",
        {{{2, 4}, true}},
        "Ask for a Rating: not asked · completion handler called: 1\n"},
-      {"ask,quit", {{{0}, true}}, ""},
       {"rate,like,store,rate,close,quit", {{{1, 3}, false}, {{0}, false}}, ""},
       {"ask-with-alert,alert-yes,quit", {{{3}, true}}, ""},
       {"export,export,export,close,export,status,quit",

@@ -6,7 +6,7 @@
 #include <ctime>
 
 #include "tests/desktop/linux/TemporaryFolder.h"
-#include "tests/tools/KitRun.h"
+#include "tests/tools/KitProcess.h"
 #include "tools/wrenvale/check/Check.h"
 #include "tools/wrenvale/check/SiteFiles.h"
 #include "tools/wrenvale/json/JSONPlaces.h"
@@ -115,10 +115,10 @@ TEST(Check, GetsToTheEndOfEverything) {
   const TemporaryFolder folder;
   const std::pair<std::string, const char*> rows[] = {
       {"", ":1:1: error: unexpected end of input"},
-      {std::string(100, '\0'), ":1:1: error: "},
+      {"1", ":1:1: error: this must be an array or a dictionary"},
+      {"\xEF\xBB\xBF[1,]", "error: unexpected ']'"},
       {"{\"a\": \"\xFF\"}", ":1:8: error: invalid string: ill-formed UTF-8 byte"},
       {std::string(3'000'000, '['), ":1:514: error: nested too deeply"},
-      {times(3'000'000, "{\"a\":"), "error: nested too deeply"},
       {"[" + std::string(3'000'000, '9') + "]", ":1:2: error: a number is too large"},
       {std::string(17'000'000, ' '), "bad.json: error: hosts take no more than 16 MiB"},
   };
@@ -170,7 +170,6 @@ TEST(Check, KnowsWhatASiteLacks) {
 }
 
 TEST(Check, AnswersItsCommandLine) {
-  const std::string site = EXAMPLE_SITE;
   const TemporaryFolder folder;
   folder.write("/bad.json", "[1]");
   const struct {
@@ -178,12 +177,10 @@ TEST(Check, AnswersItsCommandLine) {
     int status;
     const char* says;
   } rows[] = {
-      {"--site " + site, 0, "25 documents: 0 errors, 0 warnings\n"},
-      {site + "/store/reset_US_en.json", 0, "1 document: 0 errors, 0 warnings\n"},
+      {"--site " EXAMPLE_SITE, 0, "25 documents: 0 errors, 0 warnings\n"},
       {folder.path("/bad.json"), 1, ":1:2: error: this must be"},
       {folder.path("/none.json"), 1, "none.json: error: cannot be read\n"},
       {"--site " + folder.path(), 1, "/store: error: there are no documents here\n"},
-      {"--help", 0, "Usage: wrenvale check"},
       {"", 2, "a document or --site is needed"},
       {"--siet x", 2, "siet"},
   };
@@ -205,15 +202,12 @@ TEST(Keygen, KeepsTheKeyThatIsThere) {
   // As long as the framework's own key of so many bits.
   EXPECT_EQ(contentsOf(keys + "/public.pem").value_or("").size(), 272U);
 
-  const auto again = runKit("keygen --out " + keys);
-  EXPECT_EQ(again.status, 1);
-  EXPECT_THAT(again.text, HasSubstr("private.pem: File exists"));
+  EXPECT_THAT(runKit("keygen --out " + keys).text, HasSubstr("private.pem: File exists"));
   EXPECT_EQ(contentsOf(keys + "/private.pem"), key);
   std::filesystem::remove(keys + "/private.pem");
   EXPECT_THAT(runKit("keygen --out " + keys).text, HasSubstr("public.pem: File exists"));
   EXPECT_FALSE(std::filesystem::exists(keys + "/private.pem")) << "a half pair is none";
-  for (const char* arguments :
-       {"", "--out", "--out x --bits 12", "--out x --bits 2048x", "--out x y"})
+  for (const char* arguments : {"", "--out x --bits 12", "--out x --bits 2048x", "--out x y"})
     EXPECT_EQ(runKit(std::string("keygen ") + arguments).status, 2) << arguments;
 }
 

@@ -8,18 +8,12 @@
 // It ends by itself after half a second in the loop.
 
 #include <cstdlib>
-#include <cstring>
-#include <memory>
+#include <string_view>
 
 #include <QApplication>
 #include <QTimer>
 
 namespace {
-
-int runFor(QCoreApplication& application, std::chrono::milliseconds time) {
-  QTimer::singleShot(time, &application, &QCoreApplication::quit);
-  return application.exec();
-}
 
 void turnForAWhile() {
   QTimer done;
@@ -29,29 +23,25 @@ void turnForAWhile() {
     QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
 }
 
+int runLoop(bool exits) {
+  QTimer::singleShot(500, qApp, [exits] { exits ? std::exit(0) : QCoreApplication::quit(); });
+  return QCoreApplication::exec();
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
-  const char* kind = argc > 1 ? argv[1] : "";
-  const auto is = [kind](const char* name) { return std::strcmp(kind, name) == 0; };
-  constexpr std::chrono::milliseconds halfASecond{500};
-
-  if (is("none")) return 0;
-  if (is("early")) QCoreApplication(argc, argv).applicationName();
-  if (is("core") || is("early")) {
-    QCoreApplication application(argc, argv);
-    return runFor(application, halfASecond);
+  const std::string_view kind = argc > 1 ? argv[1] : "none";
+  if (kind == "none") return 0;
+  if (kind == "early") QCoreApplication(argc, argv).applicationName();
+  if (kind == "core" || kind == "early") {
+    const QCoreApplication application(argc, argv);
+    return runLoop(false);
   }
-  if (is("leak")) {
-    auto* application = new QApplication(argc, argv);
-    QTimer::singleShot(halfASecond, application, [] { std::exit(0); });
-    return application->exec();
-  }
-  QApplication application(argc, argv);
-  if (is("noloop")) {
-    turnForAWhile();
-    return 0;
-  }
-  if (is("splash")) turnForAWhile();
-  return runFor(application, halfASecond);
+  auto* application = new QApplication(argc, argv);
+  if (kind == "leak") return runLoop(true);
+  if (kind == "noloop" || kind == "splash") turnForAWhile();
+  const int status = kind == "noloop" ? 0 : runLoop(false);
+  delete application;
+  return status;
 }
