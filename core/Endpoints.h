@@ -46,6 +46,11 @@ private:
   bool bridgeIsVendors_;
 };
 
+/// Whether two addresses of the web have the same origin. Letter case of scheme and host does not
+/// matter, nor whether a scheme's usual port is written. What is no such address has none, and is
+/// never the same.
+bool haveSameOrigin(std::string_view one, std::string_view other);
+
 } // namespace wrenvale
 
 #endif

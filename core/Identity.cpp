@@ -1,5 +1,8 @@
 #include "core/Identity.h"
 
+#include <wrenvale/HTMLAdditions.h>
+
+#include "base/Value.h"
 #include "platform/Application.h"
 #include "platform/System.h"
 
@@ -40,6 +43,21 @@ std::string countryOrFallback(const platform::Locale& locale) {
 
 std::string localeSuffix(const platform::Locale& locale) {
   return countryOrFallback(locale) + "_" + languageOrFallback(locale);
+}
+
+std::string applicationNameForUserAgent(const HostIdentity& host) {
+  return urlEncoded(std::string_view(host.appName)) + "/" + std::to_string(host.bundleVersion) +
+         " " + formatted(urlEncoded(host.appstoreID));
+}
+
+std::optional<std::string> userAgentFor(const HostIdentity& host,
+                                        const std::optional<std::string>& machineModel,
+                                        const platform::System& system) {
+  const auto release = system.sysctlbyname("kern.osrelease");
+  if (!release) return std::nullopt;
+  // The architecture is part of the format and not taken from the machine.
+  return applicationNameForUserAgent(host) + " Darwin/" + *release + " (x86_64) (" +
+         formatted(urlEncoded(machineModel)) + ")";
 }
 
 } // namespace wrenvale

@@ -5,7 +5,7 @@
 #include <cstdio>
 
 #include "base/Guard.h"
-#include "core/Base64.h"
+#include "core/Codecs.h"
 #include "platform/Platform.h"
 
 namespace wrenvale {

@@ -7,7 +7,6 @@
 #include "base/Guard.h"
 #include "core/Identity.h"
 #include "core/PersistedKeys.h"
-#include "core/UserAgent.h"
 #include "platform/Platform.h"
 
 namespace wrenvale {

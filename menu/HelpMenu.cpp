@@ -1,10 +1,10 @@
 #include "menu/HelpMenu.h"
 
-#include <algorithm>
-
 #include <wrenvale/KVXWrenvaleController.h>
 
-#include "core/LocalizedText.h"
+#include <algorithm>
+
+#include "core/Identity.h"
 #include "core/Service.h"
 
 namespace wrenvale {
@@ -78,6 +78,15 @@ std::vector<HelpMenuItem> helpMenuItems(bool alreadyHasHelp, const HelpMenuNames
   items.push_back(
       {&kOpenKVXWebPage, localizedTitle("Visit " + std::string(names.vendorSiteName)), ""});
   return items;
+}
+
+std::string withAppName(std::string title, std::string_view appName) {
+  std::size_t at = 0;
+  while ((at = title.find(kAppNamePlaceholder, at)) != std::string::npos) {
+    title.replace(at, kAppNamePlaceholder.size(), appName);
+    at += appName.size();
+  }
+  return title;
 }
 
 } // namespace wrenvale

@@ -44,6 +44,11 @@ std::vector<HelpMenuItem> helpMenuItems(bool alreadyHasHelp, const HelpMenuNames
                                         const platform::Menus& menus,
                                         const platform::Application& application);
 
+inline constexpr std::string_view kAppNamePlaceholder = "#app_name";
+
+/// The title with every "#app_name" replaced by the name; what the name itself says is left alone.
+std::string withAppName(std::string title, std::string_view appName);
+
 } // namespace wrenvale
 
 #endif

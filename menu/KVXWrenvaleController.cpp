@@ -8,7 +8,6 @@
 #include "base/Guard.h"
 #include "core/Identity.h"
 #include "core/Service.h"
-#include "menu/AppName.h"
 #include "menu/HelpMenu.h"
 #include "platform/Platform.h"
 

@@ -7,7 +7,7 @@
 #include "base/Guard.h"
 #include "core/Identity.h"
 #include "platform/Platform.h"
-#include "rating/RatingRecords.h"
+#include "rating/RatingPolicy.h"
 
 namespace wrenvale {
 

@@ -10,7 +10,6 @@
 #include "platform/Platform.h"
 #include "rating/KVXRateWindowController.h"
 #include "rating/RatingPolicy.h"
-#include "rating/RatingRecords.h"
 
 namespace wrenvale {
 

@@ -6,7 +6,10 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
+
+#include "recommend/Context.h"
 
 namespace wrenvale {
 
@@ -35,5 +38,19 @@ Recommendations onePerGroup(Recommendations sorted, Trace* trace = nullptr);
 } // namespace recommend
 
 } // namespace wrenvale
+
+namespace wrenvale::recommend {
+
+class RecommenderDocument;
+
+/// A record for every candidate that is not left out, best first.
+Recommendations recommendedApps(const RecommenderDocument& document, const Context& context);
+
+/// The final list: the gate, then recommendedApps(), then one per group. Nothing when the gate is
+/// closed, which is not the same as an empty list.
+std::optional<Recommendations> recommendations(const RecommenderDocument& document,
+                                               const Context& context);
+
+} // namespace wrenvale::recommend
 
 #endif

@@ -10,8 +10,8 @@
 #include "core/PersistedKeys.h"
 #include "platform/Platform.h"
 #include "recommend/KVXAppRecommendation.h"
+#include "recommend/Ranking.h"
 #include "recommend/RecommenderDocument.h"
-#include "recommend/Recommending.h"
 
 namespace wrenvale {
 

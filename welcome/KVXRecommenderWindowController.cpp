@@ -6,11 +6,9 @@
 #include "base/JSONWriter.h"
 #include "core/Endpoints.h"
 #include "core/Identity.h"
-#include "core/LocalizedText.h"
 #include "core/Service.h"
-#include "core/UserAgent.h"
 #include "platform/Platform.h"
-#include "welcome/NavigationPolicy.h"
+#include "welcome/PageRules.h"
 #include "welcome/ScriptBridge.h"
 #include "welcome/ThankYouAlert.h"
 

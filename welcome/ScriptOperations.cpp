@@ -7,11 +7,10 @@
 #include "core/Identity.h"
 #include "core/Service.h"
 #include "platform/Platform.h"
-#include "welcome/EmailAddress.h"
 #include "welcome/KVXRecommenderWindowController.h"
 #include "welcome/Newsletter.h"
+#include "welcome/PageRules.h"
 #include "welcome/ScriptBridge.h"
-#include "welcome/WindowSizing.h"
 
 namespace wrenvale {
 

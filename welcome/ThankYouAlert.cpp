@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "core/LocalizedText.h"
+#include "core/Identity.h"
 
 namespace wrenvale::welcome {
 

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "base/Guard.h"
-#include "core/LocalizedText.h"
+#include "core/Identity.h"
 #include "core/PersistedKeys.h"
 #include "platform/Platform.h"
 #include "welcome/KVXRecommenderWindowController.h"

@@ -8,8 +8,8 @@
 #include "core/Endpoints.h"
 #include "desktop/net/json/JSONReader.h"
 #include "recommend/KVXAppRecommendation.h"
+#include "recommend/Ranking.h"
 #include "recommend/RecommenderDocument.h"
-#include "recommend/Recommending.h"
 
 namespace wrenvale::benchmark {
 

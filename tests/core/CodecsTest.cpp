@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include "core/Base64.h"
+#include "core/Codecs.h"
 #include "tests/core/ServiceFixture.h"
 
 namespace wrenvale {

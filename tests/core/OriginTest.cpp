@@ -1,4 +1,4 @@
-#include "core/Origin.h"
+#include "core/Endpoints.h"
 
 #include <gtest/gtest.h>
 

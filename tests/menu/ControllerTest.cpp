@@ -4,7 +4,7 @@
 
 #include <gmock/gmock.h>
 
-#include "menu/AppName.h"
+#include "menu/HelpMenu.h"
 #include "tests/core/ServiceFixture.h"
 #include "tests/menu/OverAService.h"
 

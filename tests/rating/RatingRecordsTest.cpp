@@ -1,4 +1,4 @@
-#include "rating/RatingRecords.h"
+#include "rating/RatingPolicy.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "recommend/Recommending.h"
+#include "recommend/Ranking.h"
 
 #include "recommend/Eligibility.h"
 #include "recommend/KVXAppRecommendation.h"

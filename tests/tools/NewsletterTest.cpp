@@ -9,12 +9,12 @@
 
 #include <wrenvale/HTMLAdditions.h>
 
-#include "core/Base64.h"
+#include "core/Codecs.h"
 #include "desktop/net/crypto/OpenSSLEncryption.h"
 #include "tests/desktop/linux/TemporaryFolder.h"
 #include "tests/tools/KitProcess.h"
 #include "tools/wrenvale/check/SiteFiles.h"
-#include "tools/wrenvale/newsletter/KeyPair.h"
+#include "tools/wrenvale/newsletter/Keys.h"
 
 namespace wrenvale::tests {
 namespace {

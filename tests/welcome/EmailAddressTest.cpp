@@ -1,4 +1,4 @@
-#include "welcome/EmailAddress.h"
+#include "welcome/Newsletter.h"
 
 #include <random>
 #include <regex>

@@ -1,11 +1,10 @@
-#include "desktop/linux/plist/BinaryPropertyList.h"
+#include "desktop/linux/plist/PropertyListFormats.h"
 
 #include <algorithm>
 #include <bit>
 #include <cmath>
 #include <limits>
 
-#include "desktop/linux/plist/PropertyListBudget.h"
 #include "desktop/linux/system/Unicode.h"
 
 namespace wrenvale::platform {

@@ -1,4 +1,4 @@
-#include "desktop/linux/plist/BinaryPropertyList.h"
+#include "desktop/linux/plist/PropertyListFormats.h"
 
 #include <bit>
 #include <unordered_map>

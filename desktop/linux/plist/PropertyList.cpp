@@ -1,8 +1,6 @@
 #include "desktop/linux/plist/PropertyList.h"
 
-#include "desktop/linux/plist/BinaryPropertyList.h"
-#include "desktop/linux/plist/PropertyListBudget.h"
-#include "desktop/linux/plist/XMLPropertyList.h"
+#include "desktop/linux/plist/PropertyListFormats.h"
 
 namespace wrenvale::platform {
 

@@ -1,8 +1,7 @@
-#include "desktop/linux/plist/XMLPropertyList.h"
+#include "desktop/linux/plist/PropertyListFormats.h"
 
 #include <algorithm>
 
-#include "desktop/linux/plist/PropertyListBudget.h"
 #include "desktop/linux/plist/XMLPropertyListScalars.h"
 
 namespace wrenvale::platform {

@@ -3,7 +3,7 @@
 #include <charconv>
 
 #include "base/UTF8.h"
-#include "desktop/linux/system/Text.h"
+#include "desktop/linux/system/Environment.h"
 
 namespace wrenvale::platform {
 

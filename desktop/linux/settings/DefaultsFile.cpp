@@ -7,8 +7,9 @@
 #include <unistd.h>
 
 #include "desktop/linux/plist/PropertyList.h"
-#include "desktop/linux/settings/FileDescriptor.h"
 #include "desktop/linux/settings/FileReplacement.h"
+#include "desktop/linux/settings/Files.h"
+#include "desktop/linux/system/Environment.h"
 
 namespace wrenvale::platform {
 
@@ -167,6 +168,29 @@ std::optional<DefaultsFile::Merged> DefaultsFile::merge(const Value::Dictionary&
   if (!identity) return std::nullopt;
   return Merged{{State::whole, std::move(encoded->dictionary), *identity},
                 std::move(encoded->tooLarge)};
+}
+
+namespace {
+
+std::filesystem::path absolutePath(const Environment& environment, const char* name) {
+  const auto value = variable(environment, name);
+  return value.starts_with('/') ? std::filesystem::path(value) : std::filesystem::path();
+}
+
+std::filesystem::path configurationFolder(const Environment& environment) {
+  const auto folder = absolutePath(environment, "XDG_CONFIG_HOME");
+  if (!folder.empty()) return folder;
+  const auto home = absolutePath(environment, "HOME");
+  return home.empty() ? home : home / ".config";
+}
+
+} // namespace
+
+std::filesystem::path defaultsFilePath(std::string_view bundleIdentifier,
+                                       const Environment& environment) {
+  const auto folder = configurationFolder(environment);
+  if (folder.empty() || !isPlainFileName(bundleIdentifier)) return {};
+  return folder / bundleIdentifier / "defaults.plist";
 }
 
 } // namespace wrenvale::platform

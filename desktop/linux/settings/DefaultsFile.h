@@ -6,13 +6,16 @@
 #ifndef WRENVALE_DESKTOP_LINUX_SETTINGS_DEFAULTSFILE_H
 #define WRENVALE_DESKTOP_LINUX_SETTINGS_DEFAULTSFILE_H
 
+#include <cstdlib>
+#include <filesystem>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/Value.h"
-#include "desktop/linux/settings/FileIdentity.h"
-#include "desktop/linux/settings/FileLock.h"
+#include "desktop/linux/settings/Files.h"
+#include "desktop/linux/system/Environment.h"
 
 namespace wrenvale::platform {
 
@@ -54,6 +57,12 @@ public:
 private:
   const std::string path_;
 };
+
+/// ${XDG_CONFIG_HOME:-$HOME/.config}/<bundle identifier>/defaults.plist. A variable that is no
+/// absolute path counts as not set. Empty when there is no folder to be in, or the identifier is no
+/// plain file name.
+std::filesystem::path defaultsFilePath(std::string_view bundleIdentifier,
+                                       const Environment& environment = std::getenv);
 
 } // namespace wrenvale::platform
 

@@ -7,7 +7,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "desktop/linux/settings/FileDescriptor.h"
+#include "desktop/linux/settings/Files.h"
 
 namespace wrenvale::platform {
 

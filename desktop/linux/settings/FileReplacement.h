@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "desktop/linux/settings/FileIdentity.h"
+#include "desktop/linux/settings/Files.h"
 
 namespace wrenvale::platform {
 

@@ -4,8 +4,8 @@
 #include <climits>
 #include <filesystem>
 
-#include "desktop/linux/settings/SmallFile.h"
-#include "desktop/linux/system/Text.h"
+#include "desktop/linux/settings/Files.h"
+#include "desktop/linux/system/Environment.h"
 
 namespace wrenvale::platform {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "desktop/linux/system/Text.h"
+#include "desktop/linux/system/Environment.h"
 
 namespace wrenvale::platform {
 

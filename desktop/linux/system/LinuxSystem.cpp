@@ -7,8 +7,8 @@
 #include <sys/utsname.h>
 #include <unistd.h>
 
-#include "desktop/linux/settings/SmallFile.h"
-#include "desktop/linux/system/Text.h"
+#include "desktop/linux/settings/Files.h"
+#include "desktop/linux/system/Environment.h"
 
 #if defined(__GLIBC__)
 #define WRENVALE_HAS_ARC4RANDOM __GLIBC_PREREQ(2, 36)

@@ -1,6 +1,6 @@
 #include "desktop/Modules.h"
 #include "desktop/NetModule.h"
-#include "desktop/linux/settings/DefaultsPath.h"
+#include "desktop/linux/settings/DefaultsFile.h"
 #include "desktop/linux/settings/LinuxUserDefaults.h"
 #include "desktop/linux/system/DesktopEntries.h"
 #include "desktop/linux/system/EnvironmentLocale.h"

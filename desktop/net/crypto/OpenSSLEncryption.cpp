@@ -1,16 +1,15 @@
 #include "desktop/net/crypto/OpenSSLEncryption.h"
 
+#include <limits>
+#include <memory>
+
 #include <openssl/bio.h>
+#include <openssl/crypto.h>
 #include <openssl/err.h>
 #include <openssl/evp.h>
 #include <openssl/pem.h>
 #include <openssl/rsa.h>
 #include <openssl/x509.h>
-
-#include <limits>
-#include <memory>
-
-#include "desktop/net/crypto/CryptoSetUp.h"
 
 namespace wrenvale::platform {
 
@@ -85,6 +84,10 @@ ImportedKey OpenSSLEncryption::importPublicKey(std::string_view pem) {
     if (!block) ERR_clear_error();
     return block;
   }};
+}
+
+void setUpCrypto() {
+  OPENSSL_init_crypto(OPENSSL_INIT_NO_ATEXIT, nullptr);
 }
 
 } // namespace wrenvale::platform

@@ -15,6 +15,11 @@ public:
   ImportedKey importPublicKey(std::string_view pem) override;
 };
 
+/// Makes the library ready without letting it clean up at the end of the process, which would take
+/// it away from under a thread that is inside it. Called before anything uses the library, directly
+/// or through TLS; has no effect when the host used it first. Any thread.
+void setUpCrypto();
+
 } // namespace wrenvale::platform
 
 #endif

@@ -10,7 +10,7 @@
 #include <curl/curl.h>
 #include <openssl/ssl.h>
 
-#include "desktop/net/crypto/CryptoSetUp.h"
+#include "desktop/net/crypto/OpenSSLEncryption.h"
 
 namespace wrenvale::platform {
 

@@ -3,12 +3,65 @@
 #ifndef WRENVALE_DESKTOP_QT_APP_QTQUEUES_H
 #define WRENVALE_DESKTOP_QT_APP_QTQUEUES_H
 
+#include <atomic>
+#include <deque>
 #include <functional>
+#include <mutex>
 
-#include "desktop/qt/app/BackgroundQueue.h"
-#include "desktop/qt/app/MainQueue.h"
+#include <QDeadlineTimer>
+#include <QThreadPool>
+
+#include "platform/Queue.h"
+
+class QObject;
 
 namespace wrenvale::platform {
+
+/// Holds its tasks until open(), then lets the event loop run one after the other. After close() it
+/// takes none and runs none.
+class MainQueue : public Queue {
+public:
+  void async(Task task) override;
+
+  /// Main thread only, once the event loop runs.
+  void open();
+  /// Main thread only; drops what has not run.
+  void close();
+
+private:
+  class Receiver;
+
+  void runOne();
+  void wake();
+
+  std::mutex mutex_;
+  std::deque<Task> tasks_;
+  QObject* receiver_ = nullptr; // lives on the main thread while the queue is open
+  bool closed_ = false;
+};
+
+/// Begins its tasks in the order in which they came. A thread goes when it has no task; it receives
+/// no signals, so that the host's handlers run where the host expects them. Never destroyed.
+class BackgroundQueue final : public Queue {
+public:
+  /// `width`: how many tasks may run at the same time.
+  explicit BackgroundQueue(int width);
+
+  void async(Task task) override;
+
+  /// From now on no task begins. Any thread.
+  void end();
+  /// Waits for the tasks that run, until `deadline` at the most.
+  void wait(QDeadlineTimer deadline);
+
+private:
+  void run(const Task& task);
+
+  QThreadPool pool_;
+  std::mutex mutex_;
+  std::size_t waiting_ = 0;
+  std::atomic<bool> ended_ = false;
+};
 
 /// Lives until the process ends. When the host's application object goes, or the process exits, no
 /// further task begins and downloads under way are given up; what runs is waited for, 80 ms at

@@ -11,8 +11,7 @@
 #include <unistd.h>
 
 #include "desktop/linux/plist/PropertyList.h"
-#include "desktop/linux/settings/DefaultsPath.h"
-#include "desktop/linux/settings/FileDescriptor.h"
+#include "desktop/linux/settings/Files.h"
 #include "tests/desktop/linux/TemporaryFolder.h"
 
 namespace wrenvale::platform {

@@ -1,4 +1,4 @@
-#include "desktop/qt/app/BackgroundQueue.h"
+#include "desktop/qt/app/QtQueues.h"
 
 #include <atomic>
 #include <future>

@@ -1,4 +1,4 @@
-#include "desktop/qt/app/MainQueue.h"
+#include "desktop/qt/app/QtQueues.h"
 
 #include <stdexcept>
 #include <vector>

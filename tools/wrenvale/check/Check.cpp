@@ -4,8 +4,8 @@
 #include <set>
 
 #include "recommend/RecommenderDocument.h"
-#include "tools/wrenvale/check/DocumentSense.h"
 #include "tools/wrenvale/check/JSONSchema.h"
+#include "tools/wrenvale/check/SemanticChecks.h"
 #include "tools/wrenvale/check/SiteFiles.h"
 #include "tools/wrenvale/json/JSONDocument.h"
 #include "tools/wrenvale/json/JSONPlaces.h"

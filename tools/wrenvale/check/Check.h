@@ -9,9 +9,17 @@
 #include <string>
 #include <vector>
 
-#include "tools/wrenvale/check/Finding.h"
-
 namespace wrenvale::kit {
+
+struct Finding {
+  enum class Weight { Warning, Error };
+
+  std::string pointer; ///< a JSON Pointer (RFC 6901); "" for the whole document
+  Weight weight;       ///< an error keeps the document from doing what it says
+  std::string text;
+};
+
+using Findings = std::vector<Finding>;
 
 struct CheckedPlace {
   std::string place; ///< "file:line:column", or a file or folder alone

@@ -4,7 +4,7 @@
 #define WRENVALE_TOOLS_WRENVALE_CHECK_JSONSCHEMA_H
 
 #include "base/Value.h"
-#include "tools/wrenvale/check/Finding.h"
+#include "tools/wrenvale/check/Check.h"
 #include "tools/wrenvale/check/SchemaNode.h"
 
 namespace wrenvale::kit {

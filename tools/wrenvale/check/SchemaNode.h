@@ -15,7 +15,7 @@
 #include <re2/re2.h>
 
 #include "base/Value.h"
-#include "tools/wrenvale/check/Finding.h"
+#include "tools/wrenvale/check/Check.h"
 
 namespace wrenvale::kit {
 

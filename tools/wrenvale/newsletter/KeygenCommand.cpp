@@ -13,7 +13,7 @@
 #include <string>
 
 #include "tools/wrenvale/Commands.h"
-#include "tools/wrenvale/newsletter/KeyPair.h"
+#include "tools/wrenvale/newsletter/Keys.h"
 
 namespace wrenvale::kit {
 

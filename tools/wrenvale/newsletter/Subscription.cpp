@@ -1,10 +1,12 @@
 #include "tools/wrenvale/newsletter/Subscription.h"
 
+#include <algorithm>
+#include <exception>
+
 #include <openssl/evp.h>
 
-#include <algorithm>
-
-#include "core/Base64.h"
+#include "core/Codecs.h"
+#include "tools/wrenvale/serve/RequestLog.h"
 
 namespace wrenvale::kit {
 
@@ -55,6 +57,18 @@ Subscription subscriptionIn(std::string_view data, const PrivateKey& key) {
   const auto address = text->substr(kEmail.size());
   if (!isAddress(address)) return refused("the data holds no e-mail address");
   return {.address = address, .fault = {}};
+}
+
+Newsletter::Answer Newsletter::take(std::string_view data) const {
+  const auto subscription = subscriptionIn(data, key_);
+  if (!subscription.address) return {400, "newsletter: refused, " + subscription.fault};
+  try {
+    const auto count = inbox_.add(*subscription.address);
+    return {200, "newsletter: " + escaped(*subscription.address) +
+                     (count == 1 ? "" : ", for the " + std::to_string(count) + ". time")};
+  } catch (const std::exception& error) {
+    return {500, "newsletter: lost, " + escaped(error.what())};
+  }
 }
 
 } // namespace wrenvale::kit

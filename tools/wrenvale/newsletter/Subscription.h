@@ -7,7 +7,8 @@
 #include <string>
 #include <string_view>
 
-#include "tools/wrenvale/newsletter/PrivateKey.h"
+#include "tools/wrenvale/newsletter/Inbox.h"
+#include "tools/wrenvale/newsletter/Keys.h"
 
 namespace wrenvale::kit {
 
@@ -23,6 +24,26 @@ struct Subscription {
 /// when it is printable ASCII without blanks, has text on both sides of one "@", and is no longer
 /// than an address can be.
 Subscription subscriptionIn(std::string_view data, const PrivateKey& key);
+
+/// Takes in what hosts send. Several threads at once.
+class Newsletter {
+public:
+  struct Answer {
+    int status;       ///< HTTP: 200, 400 for data that no host sends, 500 without an inbox
+    std::string text; ///< what came of it, for the log; one line, escaped
+  };
+
+  Newsletter(PrivateKey key, Inbox inbox)
+      : key_(std::move(key))
+      , inbox_(std::move(inbox)) {}
+
+  /// `data` is the value of "data=", percent-decoded.
+  Answer take(std::string_view data) const;
+
+private:
+  const PrivateKey key_;
+  const Inbox inbox_;
+};
 
 } // namespace wrenvale::kit
 

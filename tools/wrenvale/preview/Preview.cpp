@@ -6,8 +6,8 @@
 #include "core/BuildConfiguration.h"
 #include "core/Endpoints.h"
 #include "recommend/Eligibility.h"
+#include "recommend/Ranking.h"
 #include "recommend/RecommenderDocument.h"
-#include "recommend/Recommending.h"
 #include "recommend/Scoring.h"
 #include "recommend/Trace.h"
 

@@ -10,7 +10,7 @@
 
 #include <httplib.h>
 
-#include "tools/wrenvale/newsletter/Newsletter.h"
+#include "tools/wrenvale/newsletter/Subscription.h"
 #include "tools/wrenvale/serve/ListenAddress.h"
 
 namespace wrenvale::kit {

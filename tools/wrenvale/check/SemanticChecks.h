@@ -1,13 +1,13 @@
 // What a document may say by its schema, and yet does not mean.
 
-#ifndef WRENVALE_TOOLS_WRENVALE_CHECK_DOCUMENTSENSE_H
-#define WRENVALE_TOOLS_WRENVALE_CHECK_DOCUMENTSENSE_H
+#ifndef WRENVALE_TOOLS_WRENVALE_CHECK_SEMANTICCHECKS_H
+#define WRENVALE_TOOLS_WRENVALE_CHECK_SEMANTICCHECKS_H
 
 #include <set>
 #include <string>
 
 #include "base/Value.h"
-#include "tools/wrenvale/check/Finding.h"
+#include "tools/wrenvale/check/Check.h"
 
 namespace wrenvale::kit {
 

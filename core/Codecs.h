@@ -1,7 +1,7 @@
 // Base64 (RFC 4648, section 4).
 
-#ifndef WRENVALE_CORE_BASE64_H
-#define WRENVALE_CORE_BASE64_H
+#ifndef WRENVALE_CORE_CODECS_H
+#define WRENVALE_CORE_CODECS_H
 
 #include <string>
 #include <string_view>

@@ -1,4 +1,6 @@
-#include "tools/wrenvale/newsletter/PrivateKey.h"
+#include "tools/wrenvale/newsletter/Keys.h"
+
+#include <memory>
 
 #include <openssl/bio.h>
 #include <openssl/evp.h>
@@ -11,6 +13,7 @@ namespace {
 
 struct Free {
   void operator()(BIO* bio) const { BIO_free(bio); }
+  void operator()(EVP_PKEY* key) const { EVP_PKEY_free(key); }
   void operator()(EVP_PKEY_CTX* context) const { EVP_PKEY_CTX_free(context); }
 };
 
@@ -44,6 +47,27 @@ std::optional<std::string> PrivateKey::decrypted(std::string_view block) const {
     return std::nullopt;
   text.resize(size);
   return text;
+}
+
+namespace {
+
+std::string textIn(BIO* bio) {
+  char* data = nullptr;
+  const auto size = BIO_get_mem_data(bio, &data);
+  return {data, static_cast<std::size_t>(size)};
+}
+
+} // namespace
+
+std::optional<KeyPair> newKeyPair(unsigned bits) {
+  const std::unique_ptr<EVP_PKEY, Free> key(EVP_RSA_gen(bits));
+  const std::unique_ptr<BIO, Free> publicText(BIO_new(BIO_s_mem()));
+  const std::unique_ptr<BIO, Free> privateText(BIO_new(BIO_s_secmem()));
+  if (!key || !PEM_write_bio_PUBKEY(publicText.get(), key.get()) ||
+      !PEM_write_bio_PrivateKey(privateText.get(), key.get(), nullptr, nullptr, 0, nullptr,
+                                nullptr))
+    return std::nullopt;
+  return KeyPair{.publicKey = textIn(publicText.get()), .privateKey = textIn(privateText.get())};
 }
 
 } // namespace wrenvale::kit

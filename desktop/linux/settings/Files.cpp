@@ -1,11 +1,13 @@
-#include "desktop/linux/settings/SmallFile.h"
-
 #include <algorithm>
 #include <cerrno>
+#include <thread>
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include "desktop/linux/settings/Files.h"
 
 namespace wrenvale::platform {
 
@@ -63,6 +65,62 @@ std::optional<std::string> beginningOfFile(const char* path, std::size_t limit) 
     content.append(block, static_cast<std::size_t>(count));
   }
   return content;
+}
+
+namespace {
+
+std::int64_t nanoseconds(const timespec& time) {
+  return std::int64_t{time.tv_sec} * 1'000'000'000 + time.tv_nsec;
+}
+
+FileIdentity withError(int error) {
+  FileIdentity identity;
+  identity.error = error;
+  return identity;
+}
+
+} // namespace
+
+FileIdentity FileIdentity::of(const struct stat& status) {
+  return {.device = status.st_dev,
+          .inode = status.st_ino,
+          .size = status.st_size,
+          .modified = nanoseconds(status.st_mtim),
+          .changed = nanoseconds(status.st_ctim)};
+}
+
+FileIdentity FileIdentity::ofDescriptor(int descriptor) {
+  struct stat status = {};
+  return fstat(descriptor, &status) == 0 ? of(status) : withError(errno);
+}
+
+FileIdentity FileIdentity::ofPath(const char* path) {
+  struct stat status = {};
+  return stat(path, &status) == 0 ? of(status) : withError(errno);
+}
+
+namespace {
+
+constexpr std::chrono::milliseconds kPause(1);
+
+bool acquire(int descriptor, FileLock::Deadline deadline) {
+  while (flock(descriptor, LOCK_EX | LOCK_NB) != 0) {
+    const bool mayTryAgain = errno == EWOULDBLOCK || errno == EINTR;
+    if (!mayTryAgain || std::chrono::steady_clock::now() >= deadline) return false;
+    std::this_thread::sleep_for(kPause);
+  }
+  return true;
+}
+
+} // namespace
+
+FileLock::FileLock(const std::string& path, Deadline deadline)
+    : file_(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0600))
+    , isHeld_(file_ && acquire(file_.get(), deadline)) {}
+
+// Closing alone would not do: a process forked meanwhile has the file open too.
+FileLock::~FileLock() {
+  if (isHeld_) flock(file_.get(), LOCK_UN);
 }
 
 } // namespace wrenvale::platform

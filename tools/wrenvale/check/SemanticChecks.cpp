@@ -1,4 +1,4 @@
-#include "tools/wrenvale/check/DocumentSense.h"
+#include "tools/wrenvale/check/SemanticChecks.h"
 
 #include <iterator>
 #include <map>

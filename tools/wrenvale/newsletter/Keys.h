@@ -1,7 +1,7 @@
-// The private half of the key that hosts encrypt newsletter subscriptions for.
+// The newsletter's keys: making a pair, and the private half that reads what hosts send.
 
-#ifndef WRENVALE_TOOLS_WRENVALE_NEWSLETTER_PRIVATEKEY_H
-#define WRENVALE_TOOLS_WRENVALE_NEWSLETTER_PRIVATEKEY_H
+#ifndef WRENVALE_TOOLS_WRENVALE_NEWSLETTER_KEYS_H
+#define WRENVALE_TOOLS_WRENVALE_NEWSLETTER_KEYS_H
 
 #include <memory>
 #include <optional>
@@ -29,6 +29,16 @@ private:
 
   std::shared_ptr<EVP_PKEY> key_;
 };
+
+/// Both as PEM text (RFC 7468).
+struct KeyPair {
+  std::string publicKey;  ///< "PUBLIC KEY": what WRENVALE_PUBLIC_KEY_FILE names
+  std::string privateKey; ///< "PRIVATE KEY", without a password
+};
+
+/// RSA with the public exponent 65537. Takes up to seconds for many bits. Nothing when the library
+/// cannot.
+std::optional<KeyPair> newKeyPair(unsigned bits);
 
 } // namespace wrenvale::kit
 
