@@ -21,22 +21,22 @@ TEST(Value, LenientReadings) {
       {"null", {}, 0, false},
       {"true", true, 1, true},
       {"integer", -7, -7, true},
-      {"real", 2.9, 2, true},
+      {"zero", 0.0, 0, false},
       {"small real", 0.5, 0, true},
+      {"negative real", -2.9, -2, true},
       {"not a number", std::nan(""), 0, true},
-      {"huge real", 1e300, kMax, true},
       {"-huge real", -1e300, kMin, true},
       {"2^63", 0x1p63, kMax, true},
-      {"digits", "120", 120, true},
-      {"leading zeros", "0042", 42, true},
-      {"space and sign", " \t-12x", -12, true},
+      {"space, sign and letter", " \t-12x", -12, true},
+      {"plus", "+5.9", 5, true},
       {"two signs", "--5", 0, false},
       {"only zeros", " +000", 0, false},
+      {"largest", "9223372036854775807", kMax, true},
       {"past the largest", "9223372036854775808", kMax, true},
       {"smallest", "-9223372036854775808", kMin, true},
       {"past the smallest", "-99999999999999999999", kMin, true},
       {"yes", "YES", 0, true},
-      {"zeros then letter", "00y", 0, true},
+      {"zeros then letter", "00t", 0, true},
       {"no", "no", 0, false},
       {"empty", "", 0, false},
       {"array", Value::Array{1}, 0, false},
@@ -50,29 +50,28 @@ TEST(Value, LenientReadings) {
 
 TEST(Value, CollectionsAreReadByIndexAndKey) {
   const Value list = Value::Array{1, "two", {}};
-  EXPECT_TRUE(list.isArray());
   EXPECT_EQ(list.size(), 3U);
   EXPECT_EQ(list.at(1), Value("two"));
   EXPECT_TRUE(list.at(3).isNull());
   EXPECT_EQ(list.stringAt(1), "two");
-  EXPECT_FALSE(list.stringAt(0));
-  EXPECT_FALSE(list.stringAt(3));
+  EXPECT_FALSE(list.stringAt(0) || list.stringAt(3));
   EXPECT_TRUE(list.find("two").isNull());
 
   const Value dictionary = Value::Dictionary{{"b", {}}, {"a", list}};
-  EXPECT_TRUE(dictionary.isDictionary());
   EXPECT_EQ(dictionary.keyAt(0), "a");
+  EXPECT_EQ(dictionary.keyAt(2), "");
   EXPECT_EQ(dictionary.indexOf("b"), 1U);
   EXPECT_EQ(dictionary.find("a"), list);
   EXPECT_TRUE(dictionary.contains("b")) << "a null is there all the same";
   EXPECT_FALSE(dictionary.contains("c"));
 
-  const Value scalar = 5;
-  EXPECT_EQ(scalar.size(), 0U);
-  EXPECT_TRUE(scalar.at(0).isNull());
-  EXPECT_TRUE(scalar.find("a").isNull());
-  EXPECT_TRUE(scalar.mutableArray().empty());
-  EXPECT_TRUE(scalar.mutableDictionary().empty());
+  for (const Value& other : {Value(5), list}) {
+    EXPECT_EQ(other.keyAt(0), "");
+    EXPECT_TRUE(other.find("a").isNull());
+    EXPECT_TRUE(other.mutableDictionary().empty());
+  }
+  EXPECT_TRUE(Value(5).at(0).isNull());
+  EXPECT_TRUE(dictionary.mutableArray().empty());
 }
 
 TEST(Value, EqualityKeepsTypesApart) {

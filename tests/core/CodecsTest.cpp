@@ -10,62 +10,50 @@ namespace wrenvale {
 namespace {
 
 TEST(URLEncoded, KeepsOnlyUnreservedCharacters) {
-  EXPECT_EQ(urlEncoded("a b,c/d~e"), "a%20b%2Cc%2Fd~e");
-  EXPECT_EQ(urlEncoded("\xC3\xA9"), "%C3%A9");
-  EXPECT_EQ(urlEncoded("!*'\"();:@&=+$,/?%#[] "),
-            "%21%2A%27%22%28%29%3B%3A%40%26%3D%2B%24%2C%2F%3F%25%23%5B%5D%20");
   EXPECT_EQ(urlEncoded("AZaz09-._~"), "AZaz09-._~");
-  EXPECT_EQ(urlEncoded(std::string_view("\0\x7f\xff\n", 4)), "%00%7F%FF%0A");
+  EXPECT_EQ(urlEncoded("a b/`\xC3\xA9"), "a%20b%2F%60%C3%A9");
+  EXPECT_EQ(urlEncoded(std::string_view("\0:@[{", 5)), "%00%3A%40%5B%7B");
   EXPECT_EQ(urlEncoded(std::optional<std::string>()), std::nullopt);
 }
 
 TEST(Base32, DecodesExactEncodingsOnly) {
-  const struct {
-    std::string_view text;
-    std::optional<std::string_view> bytes;
-  } rows[] = {
+  const std::pair<std::string_view, std::optional<std::string_view>> rows[] = {
       {"", ""},
       {"MY", "f"},
-      {"my", "f"},
-      {"MZXW6YQ", "foob"},
+      {"MZXQ", "fo"},
+      {"mzxw6", "foo"},
       {"MZXW6YTBOI", "foobar"},
-      {"77777777", "\xFF\xFF\xFF\xFF\xFF"},
-      {"MZ", std::nullopt}, // left-over bits
-      {"MZXW6YR", std::nullopt},
-      {"M", std::nullopt}, // lengths that no bytes encode to
-      {"MZX", std::nullopt},
-      {"MZXW6Y", std::nullopt},
-      {"MY======", std::nullopt},
-      {"M1", std::nullopt},
-      {"M8", std::nullopt},
-      {"M[", std::nullopt},
-      {"M`", std::nullopt},
-      {"M{", std::nullopt},
-      {"\xC3\xA9", std::nullopt},
+      {"aAzZ2277", std::string_view("\0\x33\x9D\x6B\xFF", 5)},
+      {"MZ", {}}, // left-over bits
+      {"MZXW6YR", {}},
+      {"M", {}}, // lengths that no bytes encode to
+      {"MZX", {}},
+      {"MZXW6Y", {}},
   };
-  for (const auto& row : rows) {
-    const auto decoded = dataWithBase32String(row.text);
-    ASSERT_EQ(decoded.has_value(), row.bytes.has_value()) << row.text;
-    if (!decoded) continue;
-    const std::string_view bytes(reinterpret_cast<const char*>(decoded->data()), decoded->size());
-    EXPECT_EQ(bytes, *row.bytes) << row.text;
+  for (const auto& [text, bytes] : rows) {
+    const auto decoded = dataWithBase32String(text);
+    ASSERT_EQ(decoded.has_value(), bytes.has_value()) << text;
+    if (!bytes) continue;
+    EXPECT_EQ(std::string_view(reinterpret_cast<const char*>(decoded->data()), decoded->size()),
+              *bytes);
   }
+  for (const char c : std::string_view("=018@[`{\xC3"))
+    EXPECT_FALSE(dataWithBase32String(std::string{'M', c})) << c;
 }
 
-TEST(Base64, PadsAndNeverBreaksLines) {
+TEST(Base64, PadsTheLastGroup) {
   const std::pair<std::string_view, std::string_view> rows[] = {
-      {"", ""}, {"foob", "Zm9vYg=="}, {"fooba", "Zm9vYmE="}, {"\xFB\xFF\xBF", "+/+/"}};
+      {"", ""}, {"f", "Zg=="}, {"fo", "Zm8="}, {"foo", "Zm9v"}, {"\xFB\xFF\xBF", "+/+/"}};
   for (const auto& [bytes, text] : rows)
     EXPECT_EQ(base64Encoded(bytes), text);
-  EXPECT_EQ(base64Encoded(std::string(128, 'x')).find('\n'), std::string::npos);
 }
 
 using EncryptString = ServiceTest;
 
-TEST_F(EncryptString, GivesTheBase64OfTheCiphertextUnlessAStepFails) {
+TEST_F(EncryptString, GivesTheBase64OfTheCiphertext) {
   EXPECT_EQ(start().encryptString("email=a@b.cd"), base64Encoded("[email=a@b.cd]"));
   EXPECT_EQ(fake.encryption.importedPEM, "the key");
-  EXPECT_FALSE(service->encryptString(std::string(118, 'x')));
+  EXPECT_FALSE(service->encryptString(std::string(118, 'x'))) << "more than the key can take";
   fake.encryption.moduleMissing = true;
   EXPECT_FALSE(service->encryptString("x"));
 }

@@ -35,6 +35,26 @@ protected:
             .vendorSiteName = "vendor.example"};
   }
 
+  void serve(const std::string& name, Value document) {
+    fake.urlLoading.answers["http://vendor.example/store/" + name + ".json"] = name;
+    fake.json.documents[name] = std::move(document);
+  }
+
+  /// The document that builds up to this one ask for: "_F" at their first run.
+  void serveRecommendations(const std::string& variant, Value::Array apps, int build = 120) {
+    const Value::Dictionary host{{"bundle_id", "com.example.host"}, {"build_number", build}};
+    const Value::Dictionary options{{"stable_versions", Value::Array{host}}};
+    serve("recommender_US_en" + variant,
+          Value::Dictionary{{"options", options}, {"apps", std::move(apps)}});
+  }
+
+  /// A document that asks for the update window.
+  void serveReset() {
+    serve("reset_US_en",
+          Value::Array{Value::Dictionary{
+              {"bundle_id", "com.example.host"}, {"reset_number", 4}, {"max_build_number", 200}}});
+  }
+
   Value stored(std::string_view key) const { return fake.userDefaults.objectForKey(key); }
 
   platform::FakePlatform fake;

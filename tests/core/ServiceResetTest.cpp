@@ -1,94 +1,66 @@
+#include <gmock/gmock.h>
+
 #include "tests/core/ServiceFixture.h"
 
 namespace wrenvale {
 namespace {
 
-constexpr const char* kAddress = "http://vendor.example/store/reset_US_en.json";
-
 class ServiceReset : public ServiceTest {
 protected:
-  ServiceReset() {
-    answer(Value::Array{Value::Dictionary{{"bundle_id", "com.example.host"},
-                                          {"reset_number", 4},
-                                          {"min_build_number", 100},
-                                          {"max_build_number", 200}}});
-  }
-
-  void answer(Value document) {
-    fake.urlLoading.answers[kAddress] = "the document";
-    fake.json.documents["the document"] = std::move(document);
-  }
+  ServiceReset() { serveReset(); }
 
   void startAfterBuild(std::int64_t build) {
     fake.userDefaults.setObject(build, keys::kRecommenderLastVersion);
     start();
   }
 
-  void check() {
-    service->reset();
-    fake.queues.runAll();
-  }
+  Value number() const { return stored(keys::kRecommenderResetNumber); }
+  Value owed() const { return stored(keys::kShowUpdateWindow); }
 };
 
-TEST_F(ServiceReset, ReturnsAtOnceAndAsksTheServerInTheBackground) {
-  start().reset();
+TEST_F(ServiceReset, AsksInTheBackgroundAndDecidesOnTheMainQueue) {
+  startAfterBuild(119);
+  fake.urlLoading.whileLoading = [&] {
+    EXPECT_EQ(stored(keys::kRecommenderLastVersion), Value(120)) << "whatever comes of it";
+    fake.userDefaults.setObject(4, keys::kRecommenderResetNumber); // too late to be heeded
+  };
+  service->reset();
   EXPECT_TRUE(fake.urlLoading.requests.empty());
   fake.queues.global.run();
   ASSERT_EQ(fake.urlLoading.requests.size(), 1U);
   const auto& request = fake.urlLoading.requests.front();
-  EXPECT_EQ(request.url, kAddress);
+  EXPECT_EQ(request.url, "http://vendor.example/store/reset_US_en.json");
   EXPECT_EQ(request.httpMethod, "GET");
   EXPECT_EQ(request.timeoutInterval.count(), 60);
-  ASSERT_EQ(request.headers.size(), 1U);
-  EXPECT_EQ(request.headers.front().first, "User-Agent");
-  EXPECT_EQ(request.headers.front().second, *service->userAgent());
+  EXPECT_THAT(request.headers,
+              testing::ElementsAre(testing::Pair("User-Agent", *service->userAgent())));
+  fake.userDefaults.removeObjectForKey(keys::kRecommenderResetNumber);
+  EXPECT_TRUE(fake.queues.main.step());
+  EXPECT_EQ(number(), Value(4));
+  EXPECT_TRUE(owed().isNull()) << "in a turn of its own";
+  EXPECT_TRUE(fake.queues.main.step());
+  EXPECT_EQ(owed(), Value(true));
 }
 
 TEST_F(ServiceReset, FirstRunRemembersTheGenerationAndForcesNothing) {
-  start();
-  check();
+  start().reset();
+  fake.queues.runAll();
   EXPECT_EQ(stored(keys::kRecommenderLastVersion), Value(120));
-  EXPECT_EQ(stored(keys::kRecommenderResetNumber), Value(4));
-  EXPECT_TRUE(stored(keys::kShowUpdateWindow).isNull());
+  EXPECT_EQ(number(), Value(4));
+  EXPECT_TRUE(owed().isNull());
   EXPECT_TRUE(service->triggerWelcomeWindow()) << "still the first run";
-}
-
-TEST_F(ServiceReset, TheBuildIsRememberedBeforeTheDownloadAndTheRestDecidedOnWhatWasThere) {
-  startAfterBuild(120);
-  fake.urlLoading.whileLoading = [&] {
-    fake.userDefaults.setObject(4, keys::kRecommenderResetNumber);
-  };
-  check();
-  EXPECT_EQ(stored(keys::kShowUpdateWindow), Value(true));
-
-  startAfterBuild(119);
-  fake.urlLoading.whileLoading = [&] {
-    EXPECT_EQ(stored(keys::kRecommenderLastVersion), Value(120));
-  };
-  check();
-}
-
-TEST_F(ServiceReset, TouchesTheInterfaceOnTheMainQueueOnly) {
-  startAfterBuild(120);
-  service->reset();
-  fake.queues.global.run();
-  EXPECT_TRUE(stored(keys::kRecommenderResetNumber).isNull());
-  EXPECT_TRUE(fake.queues.main.step());
-  EXPECT_EQ(stored(keys::kRecommenderResetNumber), Value(4));
-  EXPECT_TRUE(stored(keys::kShowUpdateWindow).isNull());
-  EXPECT_TRUE(fake.queues.main.step());
-  EXPECT_EQ(stored(keys::kShowUpdateWindow), Value(true));
 }
 
 TEST_F(ServiceReset, AFailedDownloadChangesTheBuildOnly) {
   const auto run = [&](const char* what) {
-    fake.userDefaults.values = {{"Recommender Last Version", 119}, {"Other", "kept"}};
-    start();
-    check();
+    fake.userDefaults.values = {{"Other", "kept"}};
+    startAfterBuild(119);
+    service->reset();
+    fake.queues.runAll();
     const Value::Dictionary expected = {{"Recommender Last Version", 120}, {"Other", "kept"}};
     EXPECT_EQ(fake.userDefaults.values, expected) << what;
   };
-  fake.urlLoading.answers[kAddress] = "<html>";
+  fake.json.documents.clear();
   run("no document");
   fake.urlLoading.answers.clear();
   run("no answer");

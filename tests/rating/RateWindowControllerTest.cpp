@@ -9,15 +9,16 @@ namespace {
 
 using platform::RateButton;
 using platform::RateView;
+using testing::ElementsAre;
+using testing::Pair;
 
 using Codes = std::vector<std::int64_t>;
 
 class RateWindowController : public testing::Test {
 protected:
-  RateWindowController() { fake.info = {{"CFBundleName", "Photo Tool"}}; }
-
   /// Begins a session whose end lets go of its controller.
   platform::FakeRateWindow& begin() {
+    done.clear();
     controller = std::make_shared<KVXRateWindowController>(
         fake.platform, RateWindowLinks{.openAppstoreForApp = [this] { visit("store "); },
                                        .openSupportWebPage = [this] { visit("support "); }});
@@ -34,14 +35,13 @@ protected:
 
   /// One character a gesture: l(ike), d(islike), s(tore), c(ontact), x the close button.
   void perform(std::string_view gestures) {
+    const std::map<char, RateButton> buttons = {{'l', RateButton::kLike},
+                                                {'d', RateButton::kDislike},
+                                                {'s', RateButton::kAppstore},
+                                                {'c', RateButton::kContact}};
     auto& window = fake.windows.rateWindow();
-    for (const char gesture : gestures) {
-      if (gesture == 'l') window.press(RateButton::kLike);
-      if (gesture == 'd') window.press(RateButton::kDislike);
-      if (gesture == 's') window.press(RateButton::kAppstore);
-      if (gesture == 'c') window.press(RateButton::kContact);
-      if (gesture == 'x') window.pressClose();
-    }
+    for (const char gesture : gestures)
+      gesture == 'x' ? window.pressClose() : window.press(buttons.at(gesture));
   }
 
   void visit(const char* page) {
@@ -64,26 +64,22 @@ TEST_F(RateWindowController, SessionsEndOnceWithWhatTheUserDid) {
     const char* done;
     RateView last;
   } rows[] = {
-      {"ls", {1, 3}, "store end ", RateView::kAppstore},
-      {"dc", {2, 4}, "support end ", RateView::kContact},
+      {"lx", {1, 0}, "end ", RateView::kAppstore},
       // Buttons of a view that is on its way out or not there at all.
-      {"ldlx", {1, 0}, "end ", RateView::kAppstore},
       {"dldc", {2, 4}, "support end ", RateView::kContact},
       {"scx", {0}, "end ", RateView::kRate},
+      {"lcds", {1, 3}, "store end ", RateView::kAppstore},
       {"dsx", {2, 0}, "end ", RateView::kContact},
       // What comes after the end.
       {"lsxsl", {1, 3}, "store end ", RateView::kAppstore},
       {"xxld", {0}, "end ", RateView::kRate},
   };
   for (const auto& row : rows) {
-    done.clear();
-    history.clear();
     const auto& window = begin();
     perform(row.gestures);
     EXPECT_EQ(history, row.history) << row.gestures;
     EXPECT_EQ(done, row.done) << row.gestures;
-    EXPECT_EQ(window.views.back(), std::pair(row.last, row.last != RateView::kRate))
-        << row.gestures;
+    EXPECT_EQ(window.views.back().first, row.last) << row.gestures;
     EXPECT_FALSE(window.visible) << row.gestures;
     EXPECT_EQ(window.delegate, nullptr) << row.gestures;
   }
@@ -91,18 +87,11 @@ TEST_F(RateWindowController, SessionsEndOnceWithWhatTheUserDid) {
 
 TEST_F(RateWindowController, TheEndIsNotDisturbedFromWithin) {
   atLink = [&] { perform("xsl"); }; // opening the page runs an event loop of its own
+  atEnd = [&] { perform("xs"); };
   begin();
   perform("ls");
   EXPECT_EQ(done, "store end ");
   EXPECT_EQ(history, Codes({1, 3}));
-
-  done.clear();
-  atLink = nullptr;
-  atEnd = [&] { perform("xc"); };
-  begin();
-  perform("dc");
-  EXPECT_EQ(done, "support end ");
-  EXPECT_EQ(history, Codes({2, 4}));
 }
 
 TEST_F(RateWindowController, TheFaceFollowsThePointer) {
@@ -119,13 +108,17 @@ TEST_F(RateWindowController, TheFaceFollowsThePointer) {
   EXPECT_EQ(faces, "smile-0 smile-1 smile-0 smile-2 smile-1 smile-1 smile-0 smile-0");
 }
 
-TEST_F(RateWindowController, TextsCarryTheTranslatedName) {
-  EXPECT_EQ(begin().appName, "Photo Tool");
-  fake.application.strings[{"InfoPlist", "CFBundleName"}] = "Fotowerkzeug";
-  EXPECT_EQ(begin().appName, "Fotowerkzeug");
-  fake.application.strings.clear();
-  fake.info.clear();
+TEST_F(RateWindowController, PushesLaterViewsAndKeepsTheDateOfItsBegin) {
   EXPECT_EQ(begin().appName, "");
+  fake.application.strings[{"InfoPlist", "CFBundleName"}] = "Fotowerkzeug";
+  const auto& window = begin();
+  const auto begun = fake.system.time;
+  fake.system.advance(std::chrono::hours(1));
+  perform("l");
+  EXPECT_EQ(window.appName, "Fotowerkzeug");
+  EXPECT_THAT(window.views,
+              ElementsAre(Pair(RateView::kRate, false), Pair(RateView::kAppstore, true)));
+  EXPECT_EQ(controller->date(), begun);
 }
 
 } // namespace

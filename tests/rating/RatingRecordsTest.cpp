@@ -1,33 +1,45 @@
 #include "rating/RatingPolicy.h"
 
+#include <limits>
+
 #include <gtest/gtest.h>
 
 namespace wrenvale::rating {
 namespace {
 
-const Date kDate{std::chrono::seconds(1700000000)};
-const Value kFiled =
-    Value::Dictionary{{"History", Value::Array{1, 3}}, {"Triggered", true}, {"Date", kDate}};
+using A = Value::Array;
+using D = Value::Dictionary;
 
 TEST(RatingRecords, AreAppendedAndNeverLost) {
-  const Value other = Value::Array{"anything", 5};
+  const Date date{std::chrono::seconds(1700000000)};
+  const Value filed = D{{"History", A{1, 3}}, {"Triggered", true}, {"Date", date}};
+  const std::pair<Value, Value> rows[] = {
+      {"odd", D{{"120", A{filed}}}},
+      {D{{"100", A{"anything", 5}}}, D{{"100", A{"anything", 5}}, {"120", A{filed}}}},
+      {D{{"120", A{"first"}}}, D{{"120", A{"first", filed}}}},
+      {D{{"120", "odd"}, {"1", "kept"}}, D{{"120", A{filed}}, {"1", "kept"}}},
+  };
+  for (const auto& [before, after] : rows)
+    EXPECT_EQ(withRecord(before, "120", {{kLiked, kRatedInStore}, true, date}), after);
+}
+
+TEST(RatingPolicy, CountsWhateverIsStored) {
+  using Limits = std::numeric_limits<std::int64_t>;
   const struct {
-    const char* what;
     Value before;
+    std::int64_t count;
     Value after;
   } rows[] = {
-      {"nothing there", {}, Value::Dictionary{{"120", Value::Array{kFiled}}}},
-      {"no dictionary", "odd", Value::Dictionary{{"120", Value::Array{kFiled}}}},
-      {"other versions", Value::Dictionary{{"100", other}},
-       Value::Dictionary{{"100", other}, {"120", Value::Array{kFiled}}}},
-      {"second record", Value::Dictionary{{"120", Value::Array{"first"}}},
-       Value::Dictionary{{"120", Value::Array{"first", kFiled}}}},
-      {"no array", Value::Dictionary{{"120", "odd"}, {"1", "kept"}},
-       Value::Dictionary{{"120", Value::Array{kFiled}}, {"1", "kept"}}},
+      {A{7}, 0, D{{"120", 1}}},
+      {D{{"119", "odd"}}, 0, D{{"119", "odd"}, {"120", 1}}},
+      {D{{"120", "3"}}, 3, D{{"120", 4}}},
+      {D{{"120", A{3}}}, 0, D{{"120", 1}}},
+      {D{{"120", Limits::max()}}, Limits::max(), D{{"120", Limits::min()}}},
   };
-  for (const auto& row : rows)
-    EXPECT_EQ(withRecord(row.before, "120", {{kLiked, kRatedInStore}, true, kDate}), row.after)
-        << row.what;
+  for (const auto& row : rows) {
+    EXPECT_EQ(counter(row.before, "120"), row.count);
+    EXPECT_EQ(withNextCount(row.before, "120"), row.after);
+  }
 }
 
 } // namespace

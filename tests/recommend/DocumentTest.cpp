@@ -13,20 +13,18 @@ Optional optional(const Text& text) {
 }
 
 TEST(RecommenderDocument, ReadsTextFromWhateverStandsThere) {
-  const struct {
-    const char* value;
-    Optional text;
-  } rows[] = {
-      {R"("Alpha")", "Alpha"},    {R"("")", ""},
-      {R"(" a\n")", " a\n"},      {"-3", "-3"},
-      {"1e300", "1e+300"},        {"-2.2250738585072014e-308", "-2.2250738585072014e-308"},
-      {"true", std::nullopt},     {"null", std::nullopt},
-      {R"(["a"])", std::nullopt},
+  const std::pair<std::string, Optional> rows[] = {
+      {R"("")", ""},
+      {R"(" a\n")", " a\n"},
+      {"12", "12"},
+      {"-2.2250738585072014e-308", "-2.2250738585072014e-308"},
+      {"-9223372036854775808", "-9223372036854775808"},
+      {"true", {}},
+      {"null", {}},
+      {R"(["a"])", {}},
   };
-  for (const auto& row : rows) {
-    const Value entry = json(R"({"sp_name": )" + std::string(row.value) + "}");
-    EXPECT_EQ(optional(Candidate(entry).name), row.text) << row.value;
-  }
+  for (const auto& [value, text] : rows)
+    EXPECT_EQ(optional(Candidate(json(R"({"sp_name": )" + value + "}")).name), text) << value;
 }
 
 TEST(RecommenderDocument, TellsAbsentKeysFromEmptyValues) {
@@ -36,9 +34,8 @@ TEST(RecommenderDocument, TellsAbsentKeysFromEmptyValues) {
     std::optional<Optional> brick;
   } rows[] = {
       {R"({})", 100, std::nullopt},
-      {R"({"dependency_score": 25, "brick": "b"})", 25, "b"},
       {R"({"dependency_score": "-7", "brick": ""})", -7, ""},
-      {R"({"dependency_score": null, "brick": null})", 0, Optional()},
+      {R"({"dependency_score": [9], "brick": null})", 0, Optional()},
       {R"({"dependency_score": 1e30})", INT64_MAX, std::nullopt},
       {R"(["dependency_score", "brick"])", 100, std::nullopt},
   };
@@ -52,24 +49,19 @@ TEST(RecommenderDocument, TellsAbsentKeysFromEmptyValues) {
 }
 
 TEST(WhiteSpace, IsTrimmedByItsUnicodeDefinition) {
-  const struct {
-    std::string_view text, trimmed;
-  } rows[] = {
-      {"", ""},
+  const std::pair<std::string_view, std::string_view> rows[] = {
       {" \t\r\n\v\f", ""},
-      {" com.example.host\n", "com.example.host"},
-      {"\u00A0\u0085a\u1680\u2028", "a"},
+      {" a b~\n", "a b~"},
+      {"\u00A0\u0085!\u1680\u2028", "!"},
       {"\u2000\u200A\u2029\u202F\u205F\u3000a\u2003\u2009", "a"},
       {"\u200Ba\uFEFF", "\u200Ba\uFEFF"}, // zero width is no white space
-      {"\u180E\x1F"
-       "a\x7F",
-       "\u180E\x1F"
-       "a\x7F"},                          // nor are these controls
+      {"\x1F|\x7F", "\x1F|\x7F"},         // nor are these controls
       {"\u0420a\u0420", "\u0420a\u0420"}, // ends in the byte 0xA0
       {"\xA0\x85\x80", "\xA0\x85\x80"},   // no UTF-8
+      {std::string_view("\0 a", 3), std::string_view("\0 a", 3)},
   };
-  for (const auto& row : rows)
-    EXPECT_EQ(trimmed(row.text), row.trimmed) << row.text;
+  for (const auto& [text, expected] : rows)
+    EXPECT_EQ(trimmed(text), expected);
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// Recommendations for com.example.host, build 120, over an in-memory system; documents are written
+// Recommendations for "host", build 120, over an in-memory system; documents are written
 // as JSON text.
 
 #ifndef WRENVALE_TESTS_RECOMMEND_RECOMMENDFIXTURE_H
@@ -8,8 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include "core/BuildConfiguration.h"
-#include "core/Endpoints.h"
 #include "desktop/net/json/JSONReader.h"
 #include "platform/fake/FakeSystem.h"
 #include "recommend/Context.h"
@@ -25,26 +23,18 @@ inline Value json(std::string_view text) {
 class RecommendTest : public testing::Test {
 protected:
   Context context() {
-    return {.iconBase = endpoints.icon(""),
-            .host = {.bundleID = "com.example.host", .bundleVersion = 120},
+    return {.iconBase = "http://vendor.example/store/images/",
+            .host = {.bundleID = "host", .bundleVersion = 120},
             .isInstalled =
                 [this](std::string_view identifier) {
                   return applications.URLForApplicationWithBundleIdentifier(identifier).has_value();
                 },
-            .purchaseRecord = [this] { return bought; },
-            .purchases = [this] { return purchases; },
-            .random = [this] { return system.arc4random(); },
-            .system = &system};
+            .purchaseRecord = {},
+            .purchases = {},
+            .random = {}};
   }
 
   platform::FakeInstalledApplications applications;
-  platform::FakeSystem system;
-  Endpoints endpoints{BuildConfiguration{.vendorBase = "http://vendor.example",
-                                         .storeHost = {},
-                                         .publicKey = {},
-                                         .vendorSiteName = {}}};
-  bool bought = false;
-  Value purchases;
 };
 
 } // namespace wrenvale::recommend

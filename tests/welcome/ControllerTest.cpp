@@ -11,103 +11,67 @@ using platform::NavigationType;
 using platform::PolicyDecision;
 
 TEST_F(WelcomeTest, LoadsThePageHidden) {
-  const struct {
-    std::optional<std::string> country;
-    Value appstoreID;
-    std::string address, agent;
-  } rows[] = {
-      {"US", 123456789, "index_US.html", "Photo%20Tool/120 123456789"},
-      {"ch", {}, "index_ch.html", "Photo%20Tool/120 (null)"},
-      {{}, "a b", "index_EN.html", "Photo%20Tool/120 a%20b"},
-  };
-  for (const auto& row : rows) {
-    fake.locale.country = row.country;
-    fake.info["Appstore ID"] = row.appstoreID;
-    const auto& page = open();
-    ASSERT_EQ(page.requests.size(), 1U);
-    const auto& request = page.requests.front();
-    EXPECT_EQ(request.url, "http://vendor.example/store/newsletter/" + row.address);
-    EXPECT_EQ(request.timeout.count(), 60);
-    EXPECT_EQ(request.applicationName, row.agent);
-    EXPECT_FALSE(page.visible || page.webViewRevealed);
-  }
+  const std::string pages = "http://vendor.example/store/newsletter/";
+  const auto& page = open();
+  ASSERT_EQ(page.requests.size(), 1U);
+  EXPECT_EQ(page.requests.front().url, pages + "index_US.html");
+  EXPECT_EQ(page.requests.front().timeout.count(), 60);
+  EXPECT_EQ(page.requests.front().applicationName, "Photo%20Tool/120 123456789");
+  EXPECT_FALSE(page.visible || page.webViewRevealed);
+  fake.locale.country.reset();
+  fake.info["Appstore ID"] = "a b";
+  const auto& other = open();
+  EXPECT_EQ(other.requests.front().url, pages + "index_EN.html");
+  EXPECT_EQ(other.requests.front().applicationName, "Photo%20Tool/120 a%20b");
 }
 
-// As configured, of whatever origin a page is, or the maker's only.
 TEST_F(WelcomeTest, GivesItsObjectToThePagesThatMayHaveIt) {
-  const struct {
-    const char* origin;
-    bool mayInGeneral, mayAsVendors;
-  } rows[] = {
-      {"http://vendor.example/", true, true},
-      {"https://vendor.example", true, false},
-      {"http://other.example", true, false},
-      {"", true, false},
-  };
   for (const bool isVendors : {false, true}) {
-    endpoints = Endpoints({.vendorBase = "http://vendor.example",
-                           .storeHost = {},
-                           .publicKey = {},
-                           .vendorSiteName = {},
-                           .bridgeIsVendors = isVendors});
+    auto configured = configuration();
+    configured.bridgeIsVendors = isVendors;
+    endpoints = Endpoints(configured);
     auto& page = open();
-    for (const auto& row : rows) {
-      page.startPage(row.origin);
-      EXPECT_EQ(page.call("ready").has_value(), isVendors ? row.mayAsVendors : row.mayInGeneral)
-          << row.origin << (isVendors ? " as configured for the vendor's" : "");
+    EXPECT_TRUE(page.call("ready"));
+    for (const char* other : {"https://vendor.example", "http://other.example", ""}) {
+      page.startPage(other);
+      EXPECT_EQ(page.call("ready").has_value(), !isVendors) << other;
     }
   }
 }
 
-// One letter a step: l(oad of the page), r(eady), a(bsent list), e(mpty list), f(ull list),
-// t(urn of the main queue), c(lose of the web view).
-TEST_F(WelcomeTest, HandsTheListOverOnce) {
+// One letter a step: p(age loads anew), r(eady), t(urn of the main queue), c(lose of the web view);
+// a(bsent list), e(mpty list), l(ist), f(ull list, with alert text); s(how), w(idth), n(ewsletter
+// mode), m (welcome mode).
+TEST_F(WelcomeTest, HandsTheListOverOnceAndAlertsAtTheFirstMomentThatItMay) {
   const struct {
     const char* steps;
-    std::size_t calls;
+    std::size_t lists, alerts;
   } rows[] = {
-      {"rt", 0},  {"ft", 0},    {"rtft", 1}, {"ftrt", 1}, {"frtrtt", 1}, {"frtlrtft", 1},
-      {"rat", 0}, {"ratft", 1}, {"ret", 1},  {"fr", 0},   {"frct", 0},
+      {"rt", 0, 0},   {"lr", 0, 0},     {"rlt", 1, 0},      {"lrt", 1, 0},   {"rtlt", 1, 0},
+      {"lrct", 0, 0}, {"lrtrtt", 1, 0}, {"lrtprtlt", 1, 0}, {"ret", 1, 0},   {"ratlt", 1, 0},
+      {"lret", 1, 0}, {"f", 0, 0},      {"fs", 0, 1},       {"fw", 0, 0},    {"fws", 0, 1},
+      {"slf", 0, 1},  {"fswwff", 0, 1}, {"nfsw", 0, 0},     {"nfsmw", 0, 1},
   };
   for (const auto& row : rows) {
     auto& page = open();
+    const auto list = [&](RecommendationList list) { controller->setRecommendations(list); };
     for (const char step : std::string_view(row.steps)) {
-      if (step == 'l') page.startPage();
+      if (step == 'p') page.startPage();
       if (step == 'r') page.call("ready");
-      if (step == 'a') controller->setRecommendations({});
-      if (step == 'e') controller->setRecommendations(RecommendationList());
-      if (step == 'f') controller->setRecommendations(RecommendationList{recommendation("Alpha")});
       if (step == 't') fake.queues.main.run();
       if (step == 'c') controller->cleanup();
-    }
-    EXPECT_EQ(page.calls.size(), row.calls) << row.steps;
-    const auto call = page.calls.empty() ? "" : testing::PrintToString(page.calls.front().first);
-    EXPECT_EQ(call, row.calls ? "\"setRecommendations\"" : "");
-    fake.queues.main.run();
-  }
-}
-
-// One letter a step: s(how), w(idth), l(ist without alert text), f(ull list), n(ewsletter mode),
-// m (welcome mode).
-TEST_F(WelcomeTest, AlertsAtTheFirstMomentThatItMay) {
-  const struct {
-    const char* steps;
-    std::size_t alerts;
-  } rows[] = {
-      {"sf", 1}, {"slf", 1}, {"fw", 0}, {"fsww", 1}, {"fsff", 1}, {"nfsw", 0}, {"nfsmw", 1},
-  };
-  for (const auto& row : rows) {
-    auto& page = open();
-    for (const char step : std::string_view(row.steps)) {
+      if (step == 'a') controller->setRecommendations({});
+      if (step == 'e') list({});
+      if (step == 'l') list({recommendation("Alpha")});
+      if (step == 'f') list({recommendation("Alpha", "Try it")});
       if (step == 's') page.call("showWindow");
       if (step == 'w') page.call("setWidth:height", {640, 480});
-      if (step == 'l') controller->setRecommendations(RecommendationList{recommendation("Alpha")});
-      if (step == 'f')
-        controller->setRecommendations(RecommendationList{recommendation("Alpha", "Try it")});
       if (step == 'n') controller->setDisplayAlerts(false);
       if (step == 'm') controller->setDisplayAlerts(true);
     }
+    EXPECT_EQ(page.calls.size(), row.lists) << row.steps;
     EXPECT_EQ(page.sheets.size(), row.alerts) << row.steps;
+    fake.queues.main.run();
   }
 }
 
@@ -119,28 +83,25 @@ TEST_F(WelcomeTest, TheFirstAlertOfTheListLeadsToItsApplication) {
   const struct {
     std::shared_ptr<const Recommendation> record;
     int answer;
-    bool updating;
-    const char* texts;
+    std::string button;
     std::vector<std::string> opened;
     int beeps;
   } rows[] = {
-      {full, 1, true, "Thank you for updating Photo Tool!/Get it", {"http://alert"}, 0},
-      {full, 0, true, "Thank you for updating Photo Tool!/Get it", {}, 0},
-      {full, -1, false, "Thank you for downloading Photo Tool!/Get it", {"http://alert"}, 0},
-      {link, 1, false, "Thank you for downloading Photo Tool!/Ok", {"http://link"}, 0},
-      {none, 1, false, "Thank you for downloading Photo Tool!/Ok", {}, 1},
+      {full, 1, "Get it", {"http://alert"}, 0},
+      {full, 0, "Get it", {}, 0},
+      {link, -1, "Ok", {"http://link"}, 0},
+      {none, 1, "Ok", {}, 1},
   };
   for (const auto& row : rows) {
     fake.application.opened.clear();
     fake.application.beeps = 0;
     auto& page = open();
     page.call("showWindow");
-    controller->setUpdating(row.updating);
     controller->setRecommendations(
         RecommendationList{recommendation("first"), row.record, recommendation("last", "last")});
     ASSERT_EQ(page.sheets.size(), 1U);
     const auto& alert = page.sheets.front();
-    EXPECT_EQ(alert.messageText + "/" + alert.defaultButton, row.texts);
+    EXPECT_EQ(alert.defaultButton, row.button);
     EXPECT_EQ(alert.informativeText + *alert.alternateButton, "100 %@Abbrechen");
     controller->setRecommendations({}); // the sheet keeps its own record
     page.answerSheet(row.answer);
@@ -151,28 +112,29 @@ TEST_F(WelcomeTest, TheFirstAlertOfTheListLeadsToItsApplication) {
 
 TEST_F(WelcomeTest, ClickedLinksLeaveForTheBrowser) {
   using enum NavigationType;
+  const std::string maker = "http://vendor.example";
   const struct {
-    const char* mainDocumentURL;
+    std::string mainDocumentURL;
     NavigationType type;
     PolicyDecision decision;
-    std::size_t opened;
   } rows[] = {
-      {"http://vendor.example", kOther, PolicyDecision::kUse, 0},
-      {"http://vendor.example", kLinkClicked, PolicyDecision::kNone, 1},
-      {"http://vendor.example", kFormSubmitted, PolicyDecision::kIgnore, 0},
-      {"http://vendor.example", NavigationType(-1), PolicyDecision::kIgnore, 0},
-      {"about:blank", kLinkClicked, PolicyDecision::kUse, 0},
-      {"about:blank#", kReload, PolicyDecision::kIgnore, 0},
-      {"", kLinkClicked, PolicyDecision::kNone, 1},
+      {maker, kOther, PolicyDecision::kUse},
+      {maker, kLinkClicked, PolicyDecision::kNone},
+      {maker, kFormSubmitted, PolicyDecision::kIgnore},
+      {maker, NavigationType(6), PolicyDecision::kIgnore},
+      {"about:blank", kLinkClicked, PolicyDecision::kUse},
+      {"about:blank#", kReload, PolicyDecision::kIgnore},
+      {"", kLinkClicked, PolicyDecision::kNone},
   };
   auto& page = open();
-  for (const auto& row : rows) {
-    const platform::NavigationAction action{
-        .url = "http://to.example/?a b", .mainDocumentURL = row.mainDocumentURL, .type = row.type};
-    const std::vector<std::string> opened(row.opened, action.url);
+  for (const auto& [document, type, decision] : rows) {
     fake.application.opened.clear();
-    EXPECT_EQ(page.navigate(action), row.decision) << "row " << &row - rows;
-    EXPECT_EQ(fake.application.opened, opened) << "row " << &row - rows;
+    fake.system.advance(std::chrono::seconds(2));
+    EXPECT_EQ(page.navigate({.url = "http://a/?a b", .mainDocumentURL = document, .type = type}),
+              decision);
+    const auto opened = std::vector<std::string>{"http://a/?a b"};
+    EXPECT_EQ(fake.application.opened,
+              decision == PolicyDecision::kNone ? opened : decltype(opened)());
   }
 }
 
@@ -192,8 +154,8 @@ TEST_F(WelcomeTest, AFailedPageClosesTheWindow) {
   shown.fail();
   shown.fail();
   ASSERT_EQ(shown.sheets.size(), 1U);
-  EXPECT_EQ(shown.sheets.front().title, "Photo Tool");
-  EXPECT_EQ(shown.sheets.front().messageText, "The page did not load.");
+  EXPECT_EQ(shown.sheets[0].title + shown.sheets[0].messageText,
+            "Photo ToolThe page did not load.");
   EXPECT_EQ(delegate->finished, 1);
   EXPECT_TRUE(shown.answerSheet());
   EXPECT_EQ(delegate->finished, 2);
@@ -211,33 +173,30 @@ TEST_F(WelcomeTest, MayBeClosedFromInsideABridgeCall) {
 
 // The controller goes while something of its own is still under way.
 TEST_F(WelcomeTest, OutlivesNothingAndHarmsNothing) {
-  const struct {
-    const char* what;
-    std::function<void(platform::FakeRecommenderWindow&)> before;
-  } rows[] = {
-      {"the page loading", [](auto&) {}},
-      {"a hand-over", [](auto& page) { page.call("ready"); }},
-      {"a sheet", [](auto& page) { page.call("subscribe", {"no address"}); }},
-      {"an error sheet", [](auto& page) { page.call("showWindow"), page.fail(); }},
-      {"a delivery", [](auto& page) { page.call("subscribe", {"a@b.de"}); }},
+  using Page = platform::FakeRecommenderWindow;
+  const std::function<void(Page&)> rows[] = {
+      [](Page&) {},                                           // the page loading
+      [](Page& page) { page.call("ready"); },                 // a hand-over
+      [](Page& page) { page.call("subscribe", {"nobody"}); }, // a sheet
+      [](Page& page) { page.call("showWindow"), page.fail(); },
+      [](Page& page) { page.call("subscribe", {"a@b.de"}); }, // a delivery
   };
-  for (const auto& row : rows) {
+  for (const auto& before : rows) {
     auto& page = open();
     controller->setRecommendations(RecommendationList{recommendation("Alpha", "Try it")});
-    row.before(page);
+    before(page);
     const auto handlers = page.handlers; // of a platform that answers sheets late
     delegate->finished = 0;
     page.pressClose();
-    EXPECT_EQ(controller, nullptr) << row.what;
+    EXPECT_EQ(controller, nullptr);
     for (const auto& handler : handlers)
       handler(platform::kAlertDefaultReturn);
     page.call("showWindow");
     page.fail();
     page.pressClose();
     fake.queues.runAll();
-    EXPECT_EQ(delegate->finished, 1) << row.what;
-    EXPECT_TRUE(page.calls.empty()) << row.what;
-    EXPECT_FALSE(page.visible) << row.what;
+    EXPECT_EQ(delegate->finished, 1) << "row " << &before - rows;
+    EXPECT_TRUE(page.calls.empty() && !page.visible) << "row " << &before - rows;
   }
 }
 

@@ -13,15 +13,10 @@ protected:
   }
 
   /// Serves this document alone, with one application that has alert text.
-  void serveRecommendations(const std::string& variant) {
+  void serveAlert(const std::string& variant) {
     fake.urlLoading.answers.clear();
-    fake.urlLoading.answers["http://vendor.example/store/recommender_US_en" + variant + ".json"] =
-        "document";
-    const Value::Dictionary host{{"bundle_id", "com.example.host"}, {"build_number", 120}};
-    const Value::Dictionary app{{"bundle_id", "com.example.alpha"}, {"alert_text", "Try it"}};
-    fake.json.documents["document"] =
-        Value::Dictionary{{"options", Value::Dictionary{{"stable_versions", Value::Array{host}}}},
-                          {"apps", Value::Array{app}}};
+    serveRecommendations(variant,
+                         {Value::Dictionary{{"bundle_id", "a"}, {"alert_text", "Try it"}}});
   }
 
   platform::FakeRecommenderWindow& window() { return fake.windows.recommenderWindow(); }
@@ -31,49 +26,44 @@ protected:
 
 TEST_F(ServiceWelcome, IsDueOnTheFirstRunAndWhenOwed) {
   const struct {
-    const char* what;
     Value lastVersion, owed;
-    bool due, updating;
-    const char* document;
+    std::string document; ///< empty where it is not due
   } rows[] = {
-      {"first run", {}, {}, true, false, "_F"},
-      {"first run, owed", {}, true, true, true, "_U"},
-      {"later, nothing stored", 120, {}, false, false, ""},
-      {"later, owed", 119, true, true, true, "_U"},
-      {"odd value", 119, Value::Array{true}, false, false, ""},
+      {{}, {}, "_F"},
+      {{}, true, "_U"},
+      {120, {}, ""},
+      {119, true, "_U"},
+      {119, Value::Array{true}, ""},
   };
-  for (const auto& row : rows) {
+  for (const auto& [lastVersion, owed, document] : rows) {
     fake.userDefaults.values.clear();
-    fake.userDefaults.setObject(row.lastVersion, keys::kRecommenderLastVersion);
-    fake.userDefaults.setObject(row.owed, keys::kShowUpdateWindow);
-    fake.urlLoading.requests.clear();
-    const auto before = windows();
+    fake.userDefaults.setObject(lastVersion, keys::kRecommenderLastVersion);
+    fake.userDefaults.setObject(owed, keys::kShowUpdateWindow);
+    fake.windows.recommenderWindows.clear();
     start();
-    serveRecommendations(row.document);
-    EXPECT_EQ(service->triggerWelcomeWindow(), row.due) << row.what;
+    serveAlert(document);
+    const bool due = !document.empty(), updating = document == "_U";
+    EXPECT_EQ(service->triggerWelcomeWindow(), due);
     fake.queues.runAll();
-    ASSERT_EQ(windows() - before, row.due ? 1U : 0U) << row.what;
-    EXPECT_EQ(fetches(), row.due ? 1U : 0U) << row.what;
-    if (!row.due) continue;
+    ASSERT_EQ(windows(), due ? 1U : 0U);
+    if (!due) continue;
     auto& page = window();
     EXPECT_EQ(page.title, "Welcome to Photo Tool");
     EXPECT_FALSE(page.visible) << "until the page asks for it";
     page.startPage();
-    EXPECT_EQ(page.call("updating"), Value(row.updating)) << row.what;
+    EXPECT_EQ(page.call("updating"), Value(updating));
     page.call("showWindow");
-    ASSERT_EQ(page.sheets.size(), 1U) << row.what;
-    EXPECT_EQ(page.sheets.front().messageText, row.updating
-                                                   ? "Thank you for updating Photo Tool!"
-                                                   : "Thank you for downloading Photo Tool!");
+    ASSERT_EQ(page.sheets.size(), 1U);
+    const std::string deed = updating ? "updating" : "downloading";
+    EXPECT_EQ(page.sheets.front().messageText, "Thank you for " + deed + " Photo Tool!");
   }
+  EXPECT_EQ(fetches(), 3U);
 }
 
 TEST_F(ServiceWelcome, AnAnswerOfTheServerOpensItLater) {
   startLater();
   EXPECT_FALSE(service->triggerWelcomeWindow());
-  fake.urlLoading.answers["http://vendor.example/store/reset_US_en.json"] = "reset";
-  fake.json.documents["reset"] = Value::Array{Value::Dictionary{
-      {"bundle_id", "com.example.host"}, {"reset_number", 4}, {"max_build_number", 200}}};
+  serveReset();
   service->reset();
   fake.queues.runAll();
   ASSERT_EQ(windows(), 1U);
@@ -85,27 +75,22 @@ TEST_F(ServiceWelcome, AnOpenWindowIsKept) {
   start().triggerWelcomeWindow();
   service->triggerWelcomeWindow();
   fake.queues.runAll();
-  EXPECT_EQ(windows(), 1U);
   EXPECT_EQ(fetches(), 2U);
-
   service->subscribeToNewsletter();
   fake.queues.runAll();
   EXPECT_EQ(windows(), 1U);
   EXPECT_EQ(fetches(), 2U) << "no new fetch for the window that is there";
   EXPECT_EQ(window().title, "Newsletter Subscription");
-  EXPECT_TRUE(window().visible);
   EXPECT_EQ(window().broughtForward, 1);
-  EXPECT_EQ(fake.application.activations, 1);
   fake.userDefaults.setObject(true, keys::kShowUpdateWindow);
   window().pressClose();
   EXPECT_TRUE(stored(keys::kShowUpdateWindow).isNull()) << "it is a welcome window still";
 }
 
 TEST_F(ServiceWelcome, TheNewsletterWindowOwesNothing) {
-  serveRecommendations("");
+  serveAlert("");
   startLater().subscribeToNewsletter();
   EXPECT_TRUE(window().visible && !window().webViewRevealed);
-  EXPECT_EQ(window().title, "Newsletter Subscription");
   EXPECT_EQ(fake.application.activations, 1);
   fake.queues.runAll();
   ASSERT_EQ(fetches(), 1U);
@@ -141,12 +126,7 @@ TEST_F(ServiceWelcome, TheEndSettlesTheDebtAndMakesRoom) {
   window().fail(); // nobody saw it
   EXPECT_TRUE(stored(keys::kShowUpdateWindow).isNull());
   service->subscribeToNewsletter();
-  ASSERT_EQ(windows(), 3U);
-  window().fail();
-  EXPECT_EQ(window().sheets.size(), 1U);
-  EXPECT_TRUE(window().answerSheet());
-  EXPECT_FALSE(window().visible);
-  fake.queues.runAll();
+  EXPECT_EQ(windows(), 3U);
 }
 
 TEST_F(ServiceWelcome, WithoutWindowsThereIsTheAnswerOnly) {

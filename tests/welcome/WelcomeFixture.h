@@ -5,37 +5,25 @@
 #define WRENVALE_TESTS_WELCOME_WELCOMEFIXTURE_H
 
 #include <memory>
-#include <string>
-#include <utility>
 
 #include "core/Endpoints.h"
+#include "recommend/KVXAppRecommendation.h"
 #include "tests/core/ServiceFixture.h"
 #include "welcome/KVXRecommenderWindowController.h"
 
 namespace wrenvale {
 
-struct StubRecommendation final : Recommendation {
-  Text link() const override { return itsLink; }
-  Text alertText() const override { return itsAlertText; }
-  Text alertButtonName() const override { return itsAlertButtonName; }
-  Text alertLink() const override { return itsAlertLink; }
-  Dictionary dictionaryRepresentation() const override { return {{"name", itsName}}; }
-
-  std::string itsName;
-  Text itsAlertText, itsAlertButtonName, itsAlertLink, itsLink;
-};
-
 inline std::shared_ptr<const Recommendation>
-recommendation(std::string name, Recommendation::Text alertText = {},
+recommendation(std::string_view name, Recommendation::Text alertText = {},
                Recommendation::Text alertButtonName = {}, Recommendation::Text alertLink = {},
                Recommendation::Text link = {}) {
-  auto stub = std::make_shared<StubRecommendation>();
-  stub->itsName = std::move(name);
-  stub->itsAlertText = std::move(alertText);
-  stub->itsAlertButtonName = std::move(alertButtonName);
-  stub->itsAlertLink = std::move(alertLink);
-  stub->itsLink = std::move(link);
-  return stub;
+  auto record = std::make_shared<KVXAppRecommendation>();
+  record->setName(name);
+  record->setAlertText(alertText);
+  record->setAlertButtonName(alertButtonName);
+  record->setAlertLink(alertLink);
+  record->setLink(link);
+  return record;
 }
 
 class WelcomeTest : public ServiceTest {
@@ -66,10 +54,7 @@ protected:
 
   platform::FakeRecommenderWindow& window() { return fake.windows.recommenderWindow(); }
 
-  Endpoints endpoints{BuildConfiguration{.vendorBase = "http://vendor.example",
-                                         .storeHost = {},
-                                         .publicKey = {},
-                                         .vendorSiteName = {}}};
+  Endpoints endpoints{configuration()};
   const std::shared_ptr<Delegate> delegate = std::make_shared<Delegate>();
   std::shared_ptr<KVXRecommenderWindowController>& controller = delegate->controller;
 };
