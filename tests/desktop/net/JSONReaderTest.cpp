@@ -72,18 +72,17 @@ TEST(JSONReader, TakesNothingElse) {
 // The window keeps small objects and large ones in different ways.
 TEST(JSONReader, ObjectsOfEverySizeKeepOneChildForEachKey) {
   for (const int keys : {1, 2, 19, 20, 21, 60}) {
-    std::string text = "{\"twice\": \"first\"";
+    std::string text = "{\"twice\": 0";
     for (int i = 1; i < keys; ++i)
-      text += ", \"k" + std::to_string(i) + "\": \"" + std::to_string(i) + "\"";
-    const Value object = *read(text + ", \"twice\": \"last\"}");
+      text += ", \"k" + std::to_string(i) + "\": " + std::to_string(i);
+    const Value object = *read(text + ", \"twice\": -1}");
     ASSERT_EQ(object.size(), static_cast<std::size_t>(keys));
-    EXPECT_EQ(object.find("twice"), Value("last")) << keys;
     EXPECT_FALSE(object.indexOf("k")) << keys;
-    for (std::size_t i = 0; i < object.size(); ++i) {
-      const auto key = object.keyAt(i);
-      EXPECT_EQ(object.indexOf(key), i) << keys;
-      EXPECT_EQ(object.stringAt(i), key == "twice" ? "last" : key.substr(1)) << keys;
-    }
+    EXPECT_EQ(object.find("twice"), Value(-1)) << keys;
+    for (int i = 1; i < keys; ++i)
+      EXPECT_EQ(object.find("k" + std::to_string(i)), Value(i)) << keys;
+    for (std::size_t i = 0; i < object.size(); ++i)
+      EXPECT_EQ(object.indexOf(object.keyAt(i)), i) << keys;
   }
 }
 
