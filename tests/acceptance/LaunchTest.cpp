@@ -120,8 +120,7 @@ TEST(CallingHost, FindsAllAsPromised) {
 TEST(CallingHost, WithoutTheNetModuleOnlyTheNetworkIsMissing) {
   const Home home;
   const VendorServer server(kAutomatic);
-  const std::filesystem::path library = WRENVALE_LIBRARY;
-  std::filesystem::copy_file(library, home.folder() / library.filename());
+  std::filesystem::copy(WRENVALE_LIBRARY, home.folder());
   const std::map<std::string, std::string> path = {{"LD_LIBRARY_PATH", home.folder()}};
   EXPECT_EQ(home.run(CALLING_HOST, {}, path).status, 0);
   EXPECT_EQ(home.defaults(kPlainHost).find("Recommender Last Version"), Value(7));

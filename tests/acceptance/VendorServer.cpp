@@ -20,13 +20,6 @@ int lockedPort() {
   return lock;
 }
 
-// A port that an ended test's connections linger on may be taken; one that another server has may
-// not.
-void takeOverFromTheDead(socket_t socket) {
-  const int yes = 1;
-  setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
-}
-
 } // namespace
 
 VendorServer::VendorServer(Handler handler)
@@ -42,7 +35,12 @@ VendorServer::VendorServer(Handler handler)
   server_.set_keep_alive_max_count(1);
   server_.set_keep_alive_timeout(1);
   server_.Get(".*", answer);
-  server_.set_socket_options(takeOverFromTheDead);
+  // A port that an ended test's connections linger on may be taken; one that another server has may
+  // not.
+  server_.set_socket_options([](socket_t socket) {
+    const int yes = 1;
+    setsockopt(socket, SOL_SOCKET, SO_REUSEADDR, &yes, sizeof yes);
+  });
   if (!server_.bind_to_port("127.0.0.1", VENDOR_PORT))
     throw std::runtime_error("port " + std::to_string(VENDOR_PORT) + " is taken");
   thread_ = std::thread([this] { server_.listen_after_bind(); });

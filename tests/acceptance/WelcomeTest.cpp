@@ -4,7 +4,6 @@
 #include <unistd.h>
 
 #include <atomic>
-#include <fstream>
 
 #include <gmock/gmock.h>
 
@@ -50,10 +49,8 @@ protected:
 TEST_F(Welcome, WithoutAnEngineTheWindowIsOver) {
   const auto folder = home_.folder() / "library";
   fs::create_directories(folder / "wrenvale");
-  const fs::path library = WRENVALE_LIBRARY;
-  const fs::path net = WRENVALE_NET_MODULE;
-  fs::copy_file(library, folder / library.filename());
-  fs::copy_file(net, folder / "wrenvale" / net.filename());
+  fs::copy(WRENVALE_LIBRARY, folder);
+  fs::copy(WRENVALE_NET_MODULE, folder / "wrenvale");
   std::map<std::string, std::string> rows = {{"LD_LIBRARY_PATH", folder},
                                              {"QTWEBENGINEPROCESS_PATH", folder / "missing"},
                                              {"QTWEBENGINE_RESOURCES_PATH", folder / "missing"}};
@@ -66,12 +63,11 @@ TEST_F(Welcome, WithoutAnEngineTheWindowIsOver) {
 }
 
 bool isRunning(const Home& home) {
-  for (const auto& entry : fs::directory_iterator("/proc")) {
-    std::ifstream file(entry.path() / "environ", std::ios::binary);
-    const std::string environment(std::istreambuf_iterator<char>(file), {});
-    if (environment.find("HOME=" + home.folder().string() + '\0') != environment.npos) return true;
-  }
-  return false;
+  const auto variable = "HOME=" + home.folder().string() + '\0';
+  const auto environments = fs::directory_iterator("/proc");
+  return std::any_of(begin(environments), end(environments), [&](const auto& process) {
+    return platform::contentsOf(process.path() / "environ").find(variable) != std::string::npos;
+  });
 }
 
 // Early, in the middle of it, and when the page is there. Quitting closes windows that are shown.

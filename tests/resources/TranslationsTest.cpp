@@ -1,33 +1,38 @@
 // The translations that are shipped say all that the code looks up, and nothing else.
 
-#include <map>
 #include <set>
 
 #include <gmock/gmock.h>
 
 #include <QDir>
 #include <QDirIterator>
-#include <QFile>
 #include <QRegularExpression>
-#include <QXmlStreamReader>
 
 namespace wrenvale {
 namespace {
 
+// Every text as XML writes it.
 using Texts = std::set<std::string>;
 
-const QDir kProject(PROJECT_SOURCE_DIR);
 constexpr const char* kTranslations = "resources/translations";
 
-QByteArray contents(const QString& file) {
+// Where the expression matches: the whole, and what each of its groups captured.
+std::vector<QStringList> matchesIn(const QString& text, const char* expression) {
+  std::vector<QStringList> found;
+  for (auto matches = QRegularExpression(expression).globalMatch(text); matches.hasNext();)
+    found.push_back(matches.next().capturedTexts());
+  return found;
+}
+
+QString contents(const QString& file) {
   QFile opened(file);
   EXPECT_TRUE(opened.open(QIODevice::ReadOnly)) << file.toStdString();
   return opened.readAll();
 }
 
-QStringList filesIn(const char* folder, const QStringList& patterns) {
+QStringList filesIn(const char* folder, const char* pattern) {
   QStringList files;
-  for (QDirIterator found(kProject.filePath(folder), patterns, QDir::Files,
+  for (QDirIterator found(QDir(PROJECT_SOURCE_DIR).filePath(folder), {pattern}, QDir::Files,
                           QDirIterator::Subdirectories);
        found.hasNext();)
     files += found.next();
@@ -37,38 +42,26 @@ QStringList filesIn(const char* folder, const QStringList& patterns) {
 // The literals that stand where a text is looked up or put into a table of such texts. One that
 // ends in a blank goes before the name of the maker's site.
 void addLookedUpIn(const QString& source, Texts& texts) {
-  static const QRegularExpression place(
-      R"re((?:localized(?:Text|Title)|translated|QT_TRANSLATE_NOOP)\([^;"]*(("[^"]*"[^;"]*)+);|\.english = ("[^"]*"))re");
-  static const QRegularExpression literal("\"([^\"]*)\"");
-  auto places = place.globalMatch(contents(source));
-  while (places.hasNext()) {
-    auto literals = literal.globalMatch(places.next().captured());
-    while (literals.hasNext()) {
-      const QString text = literals.next().captured(1);
+  for (
+      const auto& place : matchesIn(
+          source,
+          R"re((?:localized(?:Text|Title)|translated|QT_TRANSLATE_NOOP)\([^;"]*(("[^"]*"[^;"]*)+);|\.english = ("[^"]*"))re"))
+    for (const auto& literal : matchesIn(place[0], "\"([^\"]*)\"")) {
+      const auto text = literal[1].toHtmlEscaped().replace('\'', "&apos;");
       texts.insert(
           (text.endsWith(' ') ? text + "@WRENVALE_VENDOR_SITE_NAME@" : text).toStdString());
     }
-  }
-}
-
-// The texts of elements of this name, unless they are not to be translated.
-void addElementsOf(const QString& file, QStringView name, Texts& texts) {
-  QXmlStreamReader reader(contents(file));
-  while (!reader.atEnd())
-    if (reader.readNext() == QXmlStreamReader::StartElement && reader.name() == name &&
-        reader.attributes().value("notr") != u"true")
-      texts.insert(reader.readElementText().toStdString());
-  EXPECT_FALSE(reader.hasError()) << file.toStdString();
 }
 
 Texts lookedUp() {
   Texts texts = {"CFBundleName"};
   for (const char* folder :
        {"core", "menu", "rating", "recommend", "welcome", "desktop/qt", "desktop/webview"})
-    for (const auto& file : filesIn(folder, {"*.cpp"}))
-      addLookedUpIn(file, texts);
-  for (const auto& file : filesIn("resources", {"*.ui"}))
-    addElementsOf(file, u"string", texts);
+    for (const auto& file : filesIn(folder, "*.cpp"))
+      addLookedUpIn(contents(file), texts);
+  for (const auto& file : filesIn("resources", "*.ui"))
+    for (const auto& element : matchesIn(contents(file), "<string>([^<]*)<"))
+      texts.insert(element[1].toStdString());
   // What goes between the literals of a look-up, and the context's name.
   for (const char* other : {" ", "!", "Wrenvale", "(null)", "?", ""})
     texts.erase(other);
@@ -80,7 +73,7 @@ constexpr const char* kInfoContext = "InfoPlist";
 
 struct Message {
   QString context;
-  std::string source;
+  QString source;
   QString translation;
   bool finished = true;
 };
@@ -88,55 +81,47 @@ struct Message {
 std::vector<Message> messagesIn(const QString& file) {
   std::vector<Message> messages;
   QString context;
-  QXmlStreamReader reader(contents(file));
-  while (!reader.atEnd()) {
-    if (reader.readNext() != QXmlStreamReader::StartElement) continue;
-    if (reader.name() == u"name") context = reader.readElementText();
-    if (reader.name() == u"source")
-      messages.push_back({context, reader.readElementText().toStdString(), {}});
-    if (reader.name() != u"translation") continue;
-    messages.back().finished = !reader.attributes().hasAttribute("type");
-    messages.back().translation = reader.readElementText();
+  for (const auto& element :
+       matchesIn(contents(file), "<(name|source|translation)([^>]*)>([^<]*)<")) {
+    if (element[1] == "name") context = element[3];
+    if (element[1] == "source") messages.push_back({context, element[3], {}});
+    if (element[1] != "translation") continue;
+    messages.back().finished = element[2].isEmpty();
+    messages.back().translation = element[3];
   }
-  EXPECT_FALSE(reader.hasError()) << file.toStdString();
   return messages;
 }
 
 Texts sourcesOf(const std::vector<Message>& messages) {
   Texts sources;
-  for (const auto& message : messages) {
-    const bool isHosts = message.context == kInfoContext && message.source == "CFBundleName";
-    EXPECT_TRUE(isHosts || message.context == "Wrenvale") << message.source;
-    EXPECT_TRUE(sources.insert(message.source).second) << "twice: " << message.source;
+  for (const auto& [context, source, translation, finished] : messages) {
+    const auto text = source.toStdString();
+    EXPECT_EQ(context, source == "CFBundleName" ? kInfoContext : "Wrenvale") << text;
+    EXPECT_TRUE(sources.insert(text).second) << "twice: " << text;
   }
   return sources;
 }
 
-QStringList placeholdersIn(const QString& text) {
-  static const QRegularExpression placeholder("%[0-9]|@[A-Z_]+@|#app_name");
-  QStringList found;
-  auto matches = placeholder.globalMatch(text);
-  while (matches.hasNext())
-    found += matches.next().captured();
-  return found;
+std::vector<QStringList> placeholdersIn(const QString& text) {
+  return matchesIn(text, "%[0-9]|@[A-Z_]+@|#app_name");
 }
 
 TEST(Translations, EveryTextIsThereAndNoneIsStale) {
   const auto texts = lookedUp();
-  for (const auto& file : filesIn(kTranslations, {"*.ts"}))
+  for (const auto& file : filesIn(kTranslations, "*.ts"))
     EXPECT_THAT(sourcesOf(messagesIn(file)), testing::ContainerEq(texts)) << file.toStdString();
 }
 
 TEST(Translations, EveryTranslationIsWhole) {
-  const auto files = filesIn(kTranslations, {"wrenvale_*.ts"});
+  const auto files = filesIn(kTranslations, "wrenvale_*.ts");
   EXPECT_EQ(files.size(), 4);
   for (const auto& file : files)
     for (const auto& [context, source, translation, finished] : messagesIn(file)) {
-      SCOPED_TRACE(file.toStdString() + ": " + source);
+      SCOPED_TRACE(file.toStdString() + ": " + source.toStdString());
       EXPECT_EQ(finished, context != kInfoContext);
       if (!finished) continue;
       EXPECT_FALSE(translation.trimmed().isEmpty());
-      EXPECT_EQ(placeholdersIn(translation), placeholdersIn(QString::fromStdString(source)));
+      EXPECT_EQ(placeholdersIn(translation), placeholdersIn(source));
     }
 }
 

@@ -88,12 +88,9 @@ TEST(Newsletter, BadDataIsRefusedAndLeavesNothing) {
   } rows[] = {
       {"what a host without encryption sends", "(null)", "could not encrypt"},
       {"no base64", "!" + good.substr(1), "no base64"},
-      {"cut off", good.substr(0, 100), "encrypted for"},
       {"base64 with a line break", good.substr(0, 64) + "\n" + good.substr(64), "no base64"},
       {"not encrypted", base64Encoded("email=ann@brenmoor.example"), "encrypted for"},
       {"another key", base64For(theirs.publicKey, "email=ann@brenmoor.example"), "encrypted for"},
-      {"other text", made("mail=ann@brenmoor.example"), "encrypted for"},
-      {"no address", made("email="), "no e-mail address"},
       {"two addresses", made("email=ann@a.example,bob@b.example"), "no e-mail address"},
       {"SQL with blanks", made("email='); DROP TABLE x; --@b.example"), "no e-mail address"},
       {"header line", made("email=ann@b.example\r\nBcc:"), "no e-mail address"},

@@ -81,10 +81,10 @@ TEST(Preview, AnswersItsCommandLine) {
       {host + "1", 2, "one document is needed"},
       {document + host + "1 --sneed 2", 2, "sneed"},
   };
-  for (const auto& row : rows) {
-    const auto output = tests::runKit("preview " + row.arguments);
-    EXPECT_EQ(output.status, row.status) << row.arguments << "\n" << output.text;
-    EXPECT_THAT(output.text, HasSubstr(row.says));
+  for (const auto& [arguments, status, says] : rows) {
+    const auto run = tests::runKit("preview " + arguments);
+    EXPECT_EQ(run.status, status) << arguments << "\n" << run.text;
+    EXPECT_THAT(run.text, HasSubstr(says));
   }
 }
 

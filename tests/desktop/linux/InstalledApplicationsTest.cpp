@@ -56,10 +56,7 @@ TEST_F(InstalledApplications, TheFirstEntryDecides) {
        ""},
       {{{own, ""}, {first, kEntry}}, own},
       {{{first, kEntry}, {second, kEntry}, {snap, kEntry}}, first},
-      {{{second, kEntry}, {flatpakOwn, kEntry}}, second},
-      {{{flatpakOwn, kEntry}, {flatpak, kEntry}, {snap, kEntry}}, flatpakOwn},
-      {{{flatpak, kEntry}, {snap, kEntry}}, flatpak},
-      {{{snap, kEntry}}, snap},
+      {{{flatpakOwn, kEntry}, {flatpak, kEntry}}, flatpakOwn},
 
       {{{own, kEntry + "Hidden=true\n"s}, {second, kEntry}}, ""},
       {{{own, kEntry + "Hidden=false\n"s}}, own},
@@ -86,13 +83,11 @@ TEST_F(InstalledApplications, IdentifierIsAPlainName) {
       {longest, longest + ".desktop", true},
       {longest + "x", longest + "x", false},
       {"", ".desktop", false},
-      {".", "..desktop", false},
       {"..", "...desktop", false},
       {"sub/org.sketch", "sub/org.sketch.desktop", false},
       {"../applications/org.sketch", "org.sketch.desktop", false},
       {"org.sketch.desktop\0x"s, "org.sketch.desktop", false},
       {"org\nsketch", "org\nsketch.desktop", false},
-      {"org\rsketch", "org\rsketch.desktop", false},
   };
   for (const auto& row : rows)
     EXPECT_EQ(find(row.identifier, {{folder + row.file, kEntry}}),
@@ -115,11 +110,10 @@ TEST_F(InstalledApplications, WhatIsNoFileIsPassedOver) {
 }
 
 TEST(DesktopEntries, FoldersFollowTheEnvironment) {
-  const std::string system = "/usr/local/share/applications/ /usr/share/applications/ ";
-  const std::string flatpak = "/var/lib/flatpak/exports/share/applications/ ";
-  const std::string snap = "/var/lib/snapd/desktop/applications/ ";
-  const std::string home = "/h/.local/share/applications/ ";
-  const std::string flatpakHome = "/h/.local/share/flatpak/exports/share/applications/ ";
+  const auto system = "/usr/local/share/applications/ /usr/share/applications/ "s;
+  const auto flatpak = "/var/lib/flatpak/exports/share/applications/ "s;
+  const auto snap = "/var/lib/snapd/desktop/applications/ "s;
+  const auto flatpakHome = "/h/.local/share/flatpak/exports/share/applications/ "s;
   const struct {
     const char* home;
     const char* dataHome;
@@ -128,16 +122,14 @@ TEST(DesktopEntries, FoldersFollowTheEnvironment) {
   } rows[] = {
       {nullptr, nullptr, nullptr, system + flatpak + snap},
       {"h", "", "", system + flatpak + snap},
-      {"/h", "relative", "", home + system + flatpakHome + flatpak + snap},
-      {"/h", "/d/", "/a:b::./c:/e//f",
-       "/d/applications/ /a/applications/ /e/f/applications/ " + flatpakHome + flatpak + snap},
-      {"/h", "/usr/share/", "/usr/share:/usr//share:/var/lib/snapd/desktop",
-       "/usr/share/applications/ " + snap + flatpakHome + flatpak},
+      {"/h", "relative", "",
+       "/h/.local/share/applications/ " + system + flatpakHome + flatpak + snap},
+      {"/h", "/d/", "/a:b::./c:/e//f:/a//:/var/lib/snapd/desktop",
+       "/d/applications/ /a/applications/ /e/f/applications/ " + snap + flatpakHome + flatpak},
   };
   for (const auto& row : rows) {
     const DesktopEntries entries([&row](const char* name) {
-      if (name == "HOME"s) return row.home;
-      return name == "XDG_DATA_HOME"s ? row.dataHome : row.dataDirs;
+      return name == "HOME"s ? row.home : name == "XDG_DATA_HOME"s ? row.dataHome : row.dataDirs;
     });
     std::string folders;
     for (const auto& folder : entries.folders())

@@ -15,9 +15,7 @@ namespace wrenvale::platform {
 namespace {
 
 using namespace std::chrono_literals;
-using testing::HasSubstr;
-using testing::Not;
-using testing::SizeIs;
+using namespace testing;
 using Body = std::optional<std::string>;
 using Client = LoopbackServer::Connection;
 
@@ -32,87 +30,63 @@ Body loaded(std::string url, std::chrono::seconds timeout = 20s) {
   return begun(loading, {.url = std::move(url), .timeoutInterval = timeout}).get();
 }
 
-// As the content coding "deflate" wants it: without the length that Qt puts in front.
+// In the content coding "deflate", which has no place for the length that Qt puts in front.
 std::string deflated(const std::string& text) {
   return qCompress(QByteArray::fromStdString(text)).mid(4).toStdString();
 }
 
-std::string deflatedAnswer(const std::string& deflated) {
-  return answerWith(deflated, "200 OK", "Content-Encoding: deflate\r\n");
-}
-
-std::string redirection(std::string_view location, std::string_view status = "302 Found") {
-  return answerWith("", status, "Location: " + std::string(location) + "\r\n");
-}
-
-std::string summary(const Body& body) {
-  if (!body) return "nothing";
-  return std::to_string(body->size()) + " bytes: " + body->substr(0, 60);
+std::string redirection(std::string_view location) {
+  return answerWith("", "302 Found", "Location: " + std::string(location) + "\r\n");
 }
 
 TEST(CurlURLLoading, TakesWholeBodiesOfAnyStatus) {
   const std::string longest(kLongestBody, 'x');
   const std::string chunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n";
+  const auto coding = "Content-Encoding: deflate\r\n";
   const auto corrupt = deflated(std::string(1000, 'a')).replace(2, 4, "\xFF\xFF\xFF\xFF");
   const struct {
     const char* name;
     std::string answer;
     Body expected;
   } rows[] = {
-      {"plain", answerWith("[1]"), "[1]"},
-      {"empty", answerWith(""), ""},
+      {"binary", answerWith(std::string_view("\0\xFF\r\n", 4)), std::string("\0\xFF\r\n", 4)},
       {"no content", "HTTP/1.1 204 No Content\r\n\r\n", ""},
-      {"not found", answerWith("<html>", "404 Not Found"), "<html>"},
-      {"bad request", answerWith("what?", "400 Bad Request"), "what?"},
       {"unusual status", answerWith("short", "418 I'm a teapot"), "short"},
-      {"server error", answerWith("sorry", "500 Internal Server Error"), "sorry"},
       {"unauthorized", answerWith("who?", "401 No", "WWW-Authenticate: Basic realm=\"r\"\r\n"),
        "who?"},
-      {"redirection to nowhere", answerWith("lost", "302 Found"), "lost"},
       {"until the end", "HTTP/1.1 200 OK\r\n\r\nall", "all"},
       {"chunked", chunked + "2\r\nab\r\n1\r\nc\r\n0\r\n\r\n", "abc"},
-      {"deflated", deflatedAnswer(deflated("small")), "small"},
-      {"binary", answerWith(std::string_view("\0\xFF\r\n", 4)), std::string("\0\xFF\r\n", 4)},
-      {"longest", answerWith(longest), longest},
-      {"longest when inflated", deflatedAnswer(deflated(longest)), longest},
-      {"too long", answerWith(longest + "x"), std::nullopt},
-      {"too long when inflated", deflatedAnswer(deflated(longest + "x")), std::nullopt},
-      {"bomb", deflatedAnswer(deflated(std::string(64 << 20, '\0'))), std::nullopt},
-      {"corrupt", deflatedAnswer(corrupt), std::nullopt},
-      {"truncated", "HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\n[1]", std::nullopt},
-      {"truncated error", "HTTP/1.1 404 No\r\nContent-Length: 10\r\n\r\n[1]", std::nullopt},
-      {"truncated head", "HTTP/1.1 200 OK\r\nContent-Le", std::nullopt},
-      {"closed", "", std::nullopt},
-      {"no HTTP", "220 smtp.example.com ready\r\n", std::nullopt},
+      {"longest", answerWith(deflated(longest), "200 OK", coding), longest},
+      {"too long", answerWith(longest + "x"), {}},
+      {"too long when inflated", answerWith(deflated(longest + "x"), "200 OK", coding), {}},
+      {"corrupt", answerWith(corrupt, "200 OK", coding), {}},
+      {"truncated", "HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\n[1]", {}},
+      {"truncated head", "HTTP/1.1 200 OK\r\nContent-Le", {}},
+      {"closed", "", {}},
+      {"no HTTP", "220 smtp.example.com ready\r\n", {}},
   };
   for (const auto& row : rows) {
     const LoopbackServer server(row.answer);
-    const auto body = loaded(server.url());
-    EXPECT_TRUE(body == row.expected) << row.name << " gave " << summary(body);
+    EXPECT_TRUE(loaded(server.url()) == row.expected) << row.name;
   }
 }
 
-TEST(CurlURLLoading, StopsAnEndlessBodyAtItsBound) {
-  std::atomic<std::size_t> sent = 0;
-  const LoopbackServer server([&sent](Client& client) {
-    const std::string block(1 << 16, 'x');
-    client.send("HTTP/1.1 200 OK\r\n\r\n");
-    while (client.send(block))
-      sent += block.size();
-  });
-  EXPECT_EQ(loaded(server.url()), std::nullopt);
-  EXPECT_GT(sent, kLongestBody);
-  EXPECT_LT(sent, 3 * kLongestBody) << "what the sockets hold comes on top of the bound";
-}
-
-TEST(CurlURLLoading, TakesNoEndlessHead) {
-  for (const std::string line : {"X: y\r\n", "HTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 200 OK\r\n"}) {
-    const LoopbackServer server([&](Client& client) {
-      client.send("HTTP/1.1 200 OK\r\n");
-      while (client.send(line)) {
-      }
-    });
-    EXPECT_EQ(loaded(server.url()), std::nullopt) << line;
+TEST(CurlURLLoading, StopsAnEndlessAnswerAtItsBound) {
+  const std::pair<std::string, std::string> rows[] = {
+      {"\r\n", std::string(1 << 16, 'x')},
+      {"", "X: y\r\n"},
+      {"", "HTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 200 OK\r\n"}};
+  for (const auto& [begin, more] : rows) {
+    std::atomic<std::size_t> sent = 0;
+    {
+      const LoopbackServer server([&](Client& client) {
+        client.send("HTTP/1.1 200 OK\r\n" + begin);
+        while (client.send(more))
+          sent += more.size();
+      });
+      EXPECT_EQ(loaded(server.url()), std::nullopt) << more;
+    }
+    EXPECT_LT(sent, 3 * kLongestBody) << "what the sockets hold comes on top of the bound";
   }
 }
 
@@ -139,32 +113,23 @@ TEST(CurlURLLoading, TimeOutIsForTheWholeExchange) {
   }
 }
 
-TEST(CurlURLLoading, FollowsRedirectionsWithinBounds) {
+TEST(CurlURLLoading, FollowsRedirectionsWithinBoundsAndNothingButWebAddresses) {
   // "/n" leads to "/n-1" and so on to the body.
   const LoopbackServer countdown([](Client& client) {
     const auto steps = std::stoi(client.head().substr(std::string_view("get /").size()));
-    client.send(steps == 0 ? answerWith("there")
-                           : redirection(std::string("/").append(std::to_string(steps - 1))));
+    client.send(steps == 0 ? answerWith("there") : redirection("/" + std::to_string(steps - 1)));
   });
   EXPECT_EQ(loaded(countdown.url("/10")), "there");
   EXPECT_EQ(loaded(countdown.url("/11")), std::nullopt);
 
-  const LoopbackServer loop([](Client& client) { client.send(redirection("/again")); });
-  EXPECT_EQ(loaded(loop.url()), std::nullopt);
-  EXPECT_THAT(loop.requests(), SizeIs(11));
-
-  for (const std::string location :
-       {"file:///etc/hostname", "data:text/plain,hello", "ftp://127.0.0.1/", "http://", "//"}) {
-    const LoopbackServer server(redirection(location, "301 Moved Permanently"));
-    EXPECT_EQ(loaded(server.url()), std::nullopt) << location;
+  for (const std::string address : {"file:///etc/hostname", "data:text/plain,hello",
+                                    "ftp://127.0.0.1/", "http://", "http://127.0.0.1:99999/"}) {
+    const LoopbackServer server(redirection(address));
+    EXPECT_EQ(loaded(server.url(), 5s), std::nullopt) << address;
+    EXPECT_EQ(loaded(address, 5s), std::nullopt) << address;
   }
-}
-
-TEST(CurlURLLoading, LoadsNothingButWebAddresses) {
-  for (const char* url : {"", "x", "/etc/hostname", "file:///etc/hostname", "data:,hello", "qrc:/x",
-                          "ftp://127.0.0.1/x", "http:///x", "http://127.0.0.1:99999/",
-                          "http://no.such.host.invalid/", "http://127.0.0.1:1/"})
-    EXPECT_EQ(loaded(url, 5s), std::nullopt) << url;
+  for (const char* address : {"", "/etc/hostname", "http://127.0.0.1:1/"})
+    EXPECT_EQ(loaded(address, 5s), std::nullopt) << address;
 }
 
 TEST(CurlURLLoading, SendsTheHeadersAsGivenAndLooksUpTheHostByName) {
@@ -176,11 +141,11 @@ TEST(CurlURLLoading, SendsTheHeadersAsGivenAndLooksUpTheHostByName) {
   EXPECT_EQ(begun(loading, {.url = server.url(), .headers = {{"A", "b\r\nInjected: 1"}}}).get(),
             std::nullopt);
   ASSERT_THAT(server.requests(), SizeIs(1));
-  const auto head = server.requests().front();
-  EXPECT_THAT(head, HasSubstr("get /store/a%2fb?data=%2b http/1.1\r\n"));
-  EXPECT_THAT(head, HasSubstr("user-agent: photo%20tool/1204 123456789 darwin/14.5.0 (x86_64) "
-                              "(m%2c1)\r\n"));
-  EXPECT_THAT(head, HasSubstr("host: localhost:" + std::to_string(server.port()) + "\r\n"));
+  const auto host = "host: localhost:" + std::to_string(server.port()) + "\r\n";
+  EXPECT_THAT(server.requests().front(),
+              AllOf(HasSubstr("get /store/a%2fb?data=%2b http/1.1\r\n"), HasSubstr(host),
+                    HasSubstr("user-agent: photo%20tool/1204 123456789 darwin/14.5.0 (x86_64) "
+                              "(m%2c1)\r\n")));
 }
 
 TEST(CurlURLLoading, KeepsNeitherCookiesNorCachedAnswers) {
@@ -195,11 +160,8 @@ TEST(CurlURLLoading, KeepsNeitherCookiesNorCachedAnswers) {
   for (int i = 0; i < 2; ++i)
     EXPECT_EQ(begun(loading, {.url = server.url("/first")}).get(), "x");
   ASSERT_THAT(server.requests(), SizeIs(4));
-  for (const auto& head : server.requests()) {
-    EXPECT_THAT(head, Not(HasSubstr("cookie:")));
-    EXPECT_THAT(head, Not(HasSubstr("if-modified-since:")));
-    EXPECT_THAT(head, Not(HasSubstr("if-none-match:")));
-  }
+  EXPECT_THAT(server.requests(), Each(Not(AnyOf(HasSubstr("cookie:"), HasSubstr("if-mod"),
+                                                HasSubstr("if-none-match:")))));
 }
 
 TEST(CurlURLLoading, UsesTheProxyOfTheEnvironment) {

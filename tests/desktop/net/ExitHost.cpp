@@ -29,17 +29,10 @@ extern "C" __attribute__((visibility("default"))) int getaddrinfo(const char*, c
 
 namespace {
 
-constexpr int kThreads = 3;
-
 void workForEver(const char* modulePath, std::string_view address) {
   void* module = dlopen(modulePath, RTLD_NOW | RTLD_LOCAL);
-  const auto entry =
-      module ? reinterpret_cast<NetModuleEntry>(dlsym(module, kNetModuleEntry)) : nullptr;
-  if (!entry) {
-    std::fprintf(stderr, "no module: %s\n", dlerror());
-    std::abort();
-  }
-  const auto& parts = *entry();
+  if (!module) std::abort();
+  const auto& parts = *reinterpret_cast<NetModuleEntry>(dlsym(module, kNetModuleEntry))();
   while (true) {
     if (address.starts_with("http")) {
       parts.urlLoading.sendSynchronousRequest({.url = std::string(address)});
@@ -53,7 +46,7 @@ void workForEver(const char* modulePath, std::string_view address) {
 
 int main(int argc, char** argv) {
   if (argc != 4) return 2;
-  for (int i = 0; i < kThreads; ++i)
+  for (int i = 0; i < 3; ++i)
     std::thread(workForEver, argv[1], argv[3]).detach();
   std::this_thread::sleep_for(std::chrono::milliseconds(std::atoll(argv[2])));
   const auto now = std::chrono::steady_clock::now().time_since_epoch();

@@ -23,7 +23,7 @@ TEST(Exit, IsNeitherHeldUpNorCrashedByWorkUnderWay) {
                                    "http://silent-name-server.invalid/",
                                    contentsOf(WRENVALE_DEVELOPMENT_PUBLIC_KEY)};
   const tests::Home home;
-  for (const auto& address : addresses) {
+  for (const auto& address : addresses)
     for (const char* delay : {"0", "1", "3", "10", "30"}) {
       const auto ended = home.run(WRENVALE_EXIT_HOST, {WRENVALE_NET_MODULE, delay, address});
       const auto took = std::chrono::steady_clock::now().time_since_epoch() -
@@ -32,7 +32,6 @@ TEST(Exit, IsNeitherHeldUpNorCrashedByWorkUnderWay) {
       // Nothing is waited for; a busy machine takes its time.
       EXPECT_LT(took, 1s) << address << " after " << delay << " ms";
     }
-  }
 }
 
 } // namespace

@@ -26,18 +26,17 @@ std::string receivedHead(int socket) {
 
 } // namespace
 
-bool LoopbackServer::Connection::send(std::string_view bytes) {
+bool LoopbackServer::Connection::send(std::string_view bytes) const {
   while (!bytes.empty()) {
-    const auto count = ::send(socket_, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+    const auto count = ::send(socket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
     if (count <= 0) return false;
     bytes.remove_prefix(static_cast<std::size_t>(count));
   }
   return true;
 }
 
-void LoopbackServer::Connection::hang() {
-  char byte = 0;
-  while (recv(socket_, &byte, 1, 0) > 0) {
+void LoopbackServer::Connection::hang() const {
+  for (char byte = 0; recv(socket, &byte, 1, 0) > 0;) {
   }
 }
 
@@ -87,7 +86,7 @@ void LoopbackServer::accept() {
 }
 
 void LoopbackServer::serve(int socket) {
-  Connection client(socket, receivedHead(socket));
+  Connection client{socket, receivedHead(socket)};
   {
     const std::lock_guard lock(mutex_);
     requests_.push_back(client.head());

@@ -15,22 +15,16 @@ namespace wrenvale::platform {
 /// Listens on 127.0.0.1 at a port of its own. Its destruction ends all connections.
 class LoopbackServer {
 public:
-  class Connection {
-  public:
-    Connection(int socket, std::string head)
-        : socket_(socket)
-        , head_(std::move(head)) {}
-
-    /// The request line and the headers, in lower case.
-    const std::string& head() const { return head_; }
+  struct Connection {
     /// False once the client is gone.
-    bool send(std::string_view bytes);
+    bool send(std::string_view bytes) const;
     /// Says nothing until the client is gone.
-    void hang();
+    void hang() const;
+    /// The request line and the headers, in lower case.
+    const std::string& head() const { return text; }
 
-  private:
-    const int socket_;
-    const std::string head_;
+    const int socket;
+    const std::string text;
   };
 
   /// Runs for each request, each on a thread of its own; the connection ends when it returns.
