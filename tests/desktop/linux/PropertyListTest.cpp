@@ -118,6 +118,7 @@ TEST(PropertyList, readsXML) {
       {"<date>2001-02-30T04:05:06Z</date>", {}},
       {"<data>Y!</data>", {}},
       {"<string>&#xD800;</string>", {}},
+      {"<string>&#0;</string>", {}},
       {"<string>&amp</string>", {}},
       {"<string><true/></string>", {}},
       {"<string>a</strings>", {}},
