@@ -29,7 +29,6 @@ TEST(Value, LenientReadings) {
       {"2^63", 0x1p63, kMax, true},
       {"space, sign and letter", " \t-12x", -12, true},
       {"plus", "+5.9", 5, true},
-      {"two signs", "--5", 0, false},
       {"only zeros", " +000", 0, false},
       {"largest", "9223372036854775807", kMax, true},
       {"past the largest", "9223372036854775808", kMax, true},
@@ -37,10 +36,8 @@ TEST(Value, LenientReadings) {
       {"past the smallest", "-99999999999999999999", kMin, true},
       {"yes", "YES", 0, true},
       {"zeros then letter", "00t", 0, true},
-      {"no", "no", 0, false},
-      {"empty", "", 0, false},
+      {"sign only", "-", 0, false},
       {"array", Value::Array{1}, 0, false},
-      {"data", Data{std::byte{1}}, 0, false},
   };
   for (const auto& row : rows) {
     EXPECT_EQ(integerValue(row.value), row.integer) << row.what;
@@ -50,12 +47,9 @@ TEST(Value, LenientReadings) {
 
 TEST(Value, CollectionsAreReadByIndexAndKey) {
   const Value list = Value::Array{1, "two", {}};
-  EXPECT_EQ(list.size(), 3U);
-  EXPECT_EQ(list.at(1), Value("two"));
   EXPECT_TRUE(list.at(3).isNull());
   EXPECT_EQ(list.stringAt(1), "two");
   EXPECT_FALSE(list.stringAt(0) || list.stringAt(3));
-  EXPECT_TRUE(list.find("two").isNull());
 
   const Value dictionary = Value::Dictionary{{"b", {}}, {"a", list}};
   EXPECT_EQ(dictionary.keyAt(0), "a");
@@ -75,8 +69,7 @@ TEST(Value, CollectionsAreReadByIndexAndKey) {
 }
 
 TEST(Value, EqualityKeepsTypesApart) {
-  EXPECT_FALSE(Value(true) == Value(1));
-  EXPECT_FALSE(Value(1) == Value(1.0));
+  EXPECT_FALSE(Value(true) == Value(1) || Value(1) == Value(1.0));
   EXPECT_FALSE(Value(Value::Array{}) == Value(Value::Dictionary{}));
   EXPECT_FALSE(Value(Value::Dictionary{{"a", {}}}) == Value(Value::Dictionary{{"b", {}}}));
   EXPECT_TRUE(Value(Data{std::byte{1}}) == Value(Data{std::byte{1}}));

@@ -42,10 +42,10 @@ TEST(Base32, DecodesExactEncodingsOnly) {
 }
 
 TEST(Base64, PadsTheLastGroup) {
-  const std::pair<std::string_view, std::string_view> rows[] = {
-      {"", ""}, {"f", "Zg=="}, {"fo", "Zm8="}, {"foo", "Zm9v"}, {"\xFB\xFF\xBF", "+/+/"}};
-  for (const auto& [bytes, text] : rows)
-    EXPECT_EQ(base64Encoded(bytes), text);
+  EXPECT_EQ(base64Encoded(""), "");
+  EXPECT_EQ(base64Encoded("f"), "Zg==");
+  EXPECT_EQ(base64Encoded("fo"), "Zm8=");
+  EXPECT_EQ(base64Encoded("\xFB\xFF\xBF"), "+/+/");
 }
 
 using EncryptString = ServiceTest;

@@ -15,7 +15,6 @@ TEST_F(Launch, FilesOneRecordForABuildAfterAStoreRating) {
     Value before;
     bool files;
   } rows[] = {
-      {D{{"100", rated}, {"110", unrated}}, true},
       {D{{"100", unrated}, {"110", rated}}, true},
       {{}, false},
       {D{{"100", unrated}}, false},

@@ -52,18 +52,16 @@ TEST_F(ServiceReset, FirstRunRemembersTheGenerationAndForcesNothing) {
 }
 
 TEST_F(ServiceReset, AFailedDownloadChangesTheBuildOnly) {
-  const auto run = [&](const char* what) {
+  fake.urlLoading.answers["http://vendor.example/store/reset_US_en.json"] = "<html>";
+  for (const char* what : {"no document", "no answer"}) {
     fake.userDefaults.values = {{"Other", "kept"}};
     startAfterBuild(119);
     service->reset();
     fake.queues.runAll();
     const Value::Dictionary expected = {{"Recommender Last Version", 120}, {"Other", "kept"}};
     EXPECT_EQ(fake.userDefaults.values, expected) << what;
-  };
-  fake.json.documents.clear();
-  run("no document");
-  fake.urlLoading.answers.clear();
-  run("no answer");
+    fake.urlLoading.answers.clear();
+  }
 }
 
 } // namespace

@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include "menu/HelpMenu.h"
 #include "tests/core/ServiceFixture.h"
@@ -13,7 +13,6 @@ namespace {
 
 using platform::FakeMenu;
 using platform::FakeMenuItem;
-using Titles = std::vector<std::string>;
 
 class ControllerTest : public ServiceTest {
 protected:
@@ -26,41 +25,37 @@ protected:
     return controller;
   }
 
+  std::string titles() const {
+    std::string all;
+    for (const auto& title : helpMenu->titles())
+      all += title + "|";
+    return all;
+  }
+
   std::shared_ptr<FakeMenu> mainMenu = std::make_shared<FakeMenu>();
   std::shared_ptr<FakeMenu> helpMenu = std::make_shared<FakeMenu>();
 };
 
 TEST_F(ControllerTest, TheHelpMenuGetsItsItemsAtItsEnd) {
   // Text that is shown as it is stands between brackets.
-  const Titles block = {"-",
-                        "[Rate on Mac App Store]",
-                        "-",
-                        "[Subscribe to Newsletter]",
-                        "[Follow on Twitter]",
-                        "[More Apps by Brenmoor]",
-                        "-",
-                        "[Support]",
-                        "-",
-                        "[Visit vendor.example]"};
+  const std::string block = "-|[Rate on Mac App Store]|-|[Subscribe to Newsletter]|"
+                            "[Follow on Twitter]|[More Apps by Brenmoor]|-|[Support]|-|"
+                            "[Visit vendor.example]|";
   const struct {
-    std::vector<FakeMenuItem> before;
+    FakeMenuItem before;
     Value name;
-    Titles titles;
+    std::string titles;
   } rows[] = {
-      {{{.title = "Tips"}, {.title = "Help", .action = "help:"}},
-       "Photo Tool",
-       {"Tips", "Help", "[Photo Tool] [Help]"}},
-      {{{.title = "Manual", .action = "showHelp:"}, {.title = "Tips"}}, {}, {"Manual", "Tips"}},
-      {{}, {}, {"[(null)] [Help]"}},
+      {{.title = "Help", .action = "help:"}, "Photo Tool", "Help|[Photo Tool] [Help]|"},
+      {{.title = "Manual", .action = "showHelp:"}, "Photo Tool", "Manual|"},
+      {{.title = "Tips"}, {}, "Tips|[(null)] [Help]|"},
   };
-  for (auto [before, name, titles] : rows) {
+  for (const auto& row : rows) {
     helpMenu->items.clear();
-    for (const auto& item : before)
-      helpMenu->add(item);
-    fake.info["CFBundleName"] = name;
+    helpMenu->add(row.before);
+    fake.info["CFBundleName"] = row.name;
     makeController()->awakeFromNib();
-    titles.insert(titles.end(), block.begin(), block.end());
-    EXPECT_EQ(helpMenu->titles(), titles);
+    EXPECT_EQ(titles(), row.titles + block);
     for (const auto& item : helpMenu->items)
       EXPECT_EQ(item->keyEquivalent, item->action == "openSupportWebPageAction:" ? "?" : "")
           << item->title;
@@ -74,41 +69,32 @@ TEST_F(ControllerTest, TitlesAreTheHostsTranslations) {
                               {{"Wrenvale", "Visit vendor.example"}, "vendor.example besuchen"}};
   mainMenu->add({.title = "Hilfe", .submenu = helpMenu});
   makeController()->awakeFromNib();
-  const auto titles = helpMenu->titles();
-  EXPECT_EQ(titles.at(0), "[Fotowerkzeug] &Hilfe");
-  EXPECT_EQ(titles.at(8), "Hilfe zu [Fotowerkzeug]");
-  EXPECT_EQ(titles.at(10), "vendor.example besuchen");
+  EXPECT_EQ(titles(), "[Fotowerkzeug] &Hilfe|-|[Rate on Mac App Store]|-|[Subscribe to Newsletter]|"
+                      "[Follow on Twitter]|[More Apps by Brenmoor]|-|Hilfe zu [Fotowerkzeug]|-|"
+                      "vendor.example besuchen|");
 }
 
 TEST_F(ControllerTest, EveryItemReachesItsOperationWithOrWithoutTheController) {
-  const std::string base = "http://vendor.example";
-  const std::pair<const char*, Titles> rows[] = {
-      {"openSupportWebPageAction:", {base + "/app_redirect/support_US_en/com.example.host"}},
-      {"rateOnMacAppStoreAction:", {}},
-      {"subscribeToNewsLetterAction:", {}},
-      {"followOnTwitterAction:", {base + "/app_redirect/twitter"}},
-      {"moreAppsAction:", {base + "/app_redirect/moreapps_US_en"}},
-      {"openGeneralSupportAction:", {base + "/app_redirect/support_US_en"}},
-      {"openKVXWebPageAction:", {base}},
-  };
-  for (const bool alive : {true, false}) {
+  const std::string redirect = "http://vendor.example/app_redirect/";
+  for (const std::size_t run : {1, 2}) {
     start();
     helpMenu->items.clear();
+    fake.application.opened.clear();
+    fake.system.advance(std::chrono::seconds(2));
     auto controller = makeController();
     controller->awakeFromNib();
-    if (!alive) controller.reset();
-    for (const auto& [action, opened] : rows) {
-      const auto scope = std::string(action) + (alive ? "" : " without the controller");
-      fake.system.advance(std::chrono::seconds(2));
-      fake.application.opened.clear();
-      fake.windows.rateWindows.clear();
-      fake.windows.recommenderWindows.clear();
-      EXPECT_TRUE(helpMenu->choose(action)) << scope;
-      EXPECT_EQ(fake.application.opened, opened) << scope;
-      EXPECT_EQ(fake.windows.rateWindows.size(), scope.starts_with("rate") ? 1U : 0U) << scope;
-      EXPECT_EQ(fake.windows.recommenderWindows.size(), scope.starts_with("subscribe") ? 1U : 0U)
-          << scope;
-    }
+    if (run == 2) controller.reset();
+    EXPECT_TRUE(helpMenu->choose("rateOnMacAppStoreAction:"));
+    EXPECT_EQ(fake.windows.rateWindows.size(), run);
+    for (const char* action :
+         {"subscribeToNewsLetterAction:", "openSupportWebPageAction:", "followOnTwitterAction:",
+          "moreAppsAction:", "openGeneralSupportAction:", "openKVXWebPageAction:"})
+      EXPECT_TRUE(helpMenu->choose(action)) << action << run;
+    EXPECT_EQ(fake.windows.recommenderWindows.size(), run);
+    EXPECT_THAT(fake.application.opened,
+                testing::ElementsAre(redirect + "support_US_en/com.example.host",
+                                     redirect + "twitter", redirect + "moreapps_US_en",
+                                     redirect + "support_US_en", "http://vendor.example"));
   }
 }
 
@@ -126,7 +112,6 @@ TEST_F(ControllerTest, MenusMayBeMissingOrGone) {
   controller->setHelpMenu(nullptr);
   controller->setMainMenu(nullptr);
   controller->awakeFromNib();
-
   helpMenu = std::make_shared<FakeMenu>();
   controller->setHelpMenu(fake.menus.hostMenu(helpMenu));
   controller->awakeFromNib();

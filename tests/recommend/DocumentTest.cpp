@@ -31,20 +31,19 @@ TEST(RecommenderDocument, TellsAbsentKeysFromEmptyValues) {
   const struct {
     const char* entry;
     std::int64_t score;
-    std::optional<Optional> brick;
+    std::string brick;
   } rows[] = {
-      {R"({})", 100, std::nullopt},
+      {R"({})", 100, "absent"},
       {R"({"dependency_score": "-7", "brick": ""})", -7, ""},
-      {R"({"dependency_score": [9], "brick": null})", 0, Optional()},
-      {R"({"dependency_score": 1e30})", INT64_MAX, std::nullopt},
-      {R"(["dependency_score", "brick"])", 100, std::nullopt},
+      {R"({"dependency_score": [9], "brick": null})", 0, "null"},
+      {R"({"dependency_score": 1e30})", INT64_MAX, "absent"},
+      {R"(["dependency_score", "brick"])", 100, "absent"},
   };
   for (const auto& row : rows) {
     const Dependency dependency(json(row.entry));
     EXPECT_EQ(dependency.score(), row.score) << row.entry;
     const auto brick = dependency.brick();
-    ASSERT_EQ(brick.has_value(), row.brick.has_value()) << row.entry;
-    EXPECT_EQ(optional(brick.value_or(Text())), row.brick.value_or(std::nullopt)) << row.entry;
+    EXPECT_EQ(brick ? optional(*brick).value_or("null") : "absent", row.brick) << row.entry;
   }
 }
 

@@ -31,18 +31,15 @@ TEST_F(RecommendTest, MakesNothingOfABadDocument) {
       {"{}", "closed"},
       {R"(["options", "apps"])", "closed"},
       {R"({"options": null, "apps": [{"bundle_id": "a"}]})", "closed"},
-      {R"({"options": [{"stable_versions": []}]})", "closed"},
-      {withApps("null"), ""},
       {withApps(R"({"0": {"bundle_id": "a"}})"), ""},
       {withApps(R"([null, true, -2.5, "a", [{"bundle_id": "a"}], {}, {"bundle_id": "b"}])"), "b"},
       {withApps(R"([{"bundle_id": "a", "group": null, "exclude": null, "dependency": null}])"),
        "a"},
       {withApps(R"([{"bundle_id": "a", "group": ["g"], "priority_score": 3},
-                    {"bundle_id": "b", "group": ["g"], "priority_score": 2}])"),
-       "ab"},
-      {withApps(R"([{"bundle_id": "a", "group": 5, "priority_score": -9223372036854775808},
-                    {"bundle_id": "b", "group": 5, "priority_score": 18446744073709551615}])"),
-       "b"},
+                    {"bundle_id": "b", "group": ["g"], "priority_score": 2},
+                    {"bundle_id": "c", "group": 5, "priority_score": -9223372036854775808},
+                    {"bundle_id": "d", "group": 5, "priority_score": 18446744073709551615}])"),
+       "dab"},
   };
   for (const auto& [document, expected] : rows)
     EXPECT_EQ(outcome(document, context()), expected) << document;

@@ -31,13 +31,10 @@ TEST(EmailAddress, IsWhatThePatternMatches) {
 
 // Anything worse than linear would not come back within the test's time.
 TEST(EmailAddress, TakesAnyLength) {
-  constexpr std::size_t kLength = 10'000'000;
-  std::string dots = "a@";
-  while (dots.size() < kLength)
-    dots += "b.cd";
-  EXPECT_TRUE(isEmailAddress(dots));
-  EXPECT_FALSE(isEmailAddress(dots + "!"));
-  EXPECT_FALSE(isEmailAddress(std::string(kLength, '@')));
+  const std::string dots = "a@" + std::string(10'000'000, '.');
+  EXPECT_TRUE(isEmailAddress(dots + "cd"));
+  EXPECT_FALSE(isEmailAddress(dots + "c!"));
+  EXPECT_FALSE(isEmailAddress(std::string(10'000'000, '@')));
 }
 
 } // namespace

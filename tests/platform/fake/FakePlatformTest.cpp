@@ -42,16 +42,6 @@ TEST(FakeQueues, DropWhatIsTooMuchOrTooLate) {
   EXPECT_EQ(queues.main.size(), 0U);
 }
 
-TEST(FakeApplication, OpensNoMoreThanAPersonDoes) {
-  FakePlatform fake;
-  std::string opened;
-  for (const int milliseconds : {0, 0, 500, 500, 0, 0, 999, 1}) {
-    fake.system.advance(std::chrono::milliseconds(milliseconds));
-    opened += fake.application.openURL("http://vendor.example") ? 'o' : '.';
-  }
-  EXPECT_EQ(opened, "ooooo..o");
-}
-
 TEST(FakeUserDefaults, OnlySynchronizedValuesSurvive) {
   FakeUserDefaults defaults;
   defaults.setObject(1, "k");
