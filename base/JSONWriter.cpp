@@ -8,8 +8,8 @@ namespace {
 
 constexpr std::string_view kReplacement = "\xEF\xBF\xBD";
 
-// Steps over one character beyond ASCII, or one byte that belongs to none. The two line separators
-// of Unicode are escaped, since not every script engine takes them within a string.
+// Writes one character beyond ASCII, or the replacement for a byte that belongs to none. Escapes
+// the two line separators of Unicode, which not every script engine takes within a string.
 void writeBeyondASCII(std::string& out, std::string_view& text) {
   const auto before = text;
   const auto character = takeUTF8(text);

@@ -6,7 +6,7 @@ namespace wrenvale {
 
 namespace {
 
-// How many bytes follow a lead byte; nothing for one that leads nothing.
+// How many bytes follow this lead byte; nothing when it is no lead byte.
 std::optional<std::size_t> continuationCount(unsigned char lead) {
   if (lead < 0x80) return 0;
   if (lead >= 0xC2 && lead < 0xE0) return 1;

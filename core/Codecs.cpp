@@ -43,7 +43,7 @@ int decoded(char c) {
   return -1;
 }
 
-// Whole bytes end a last group of 2, 4, 5 or 7 characters only.
+// Only a last group of 2, 4, 5 or 7 characters ends on a whole byte.
 bool isLengthOfSomething(std::size_t length) {
   const std::size_t last = length % 8;
   return last != 1 && last != 3 && last != 6;

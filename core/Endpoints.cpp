@@ -23,7 +23,7 @@ constexpr std::string_view kSupport = "/app_redirect/support_%@/%@";
 constexpr std::string_view kTwitter = "/app_redirect/twitter";
 constexpr std::string_view kStore = "macappstore://%@/us/app/id%@?mt=12";
 
-// The template with each "%@" replaced in order. What is put in is not looked at again.
+// Replaces each "%@" of the template in order, and none in what it has put in.
 std::string filled(std::string_view pattern, std::initializer_list<std::string_view> values) {
   std::string result;
   for (const auto value : values) {
@@ -106,8 +106,8 @@ std::string_view usualPort(std::string_view scheme) {
   return scheme == "https" ? ":443" : "";
 }
 
-// "scheme://host:port", or "scheme://host" for the usual port. An address with a user name in it
-// has none: it is not how a maker's server is written, and a place to hide another host.
+// "scheme://host:port", or "scheme://host" for the usual port. None for an address with a user
+// name: no maker's server has one, and it could hide another host.
 std::optional<std::string> originOf(std::string_view address) {
   const auto colon = address.find("://");
   if (colon == std::string_view::npos) return std::nullopt;

@@ -13,8 +13,8 @@ void Service::reset() {
   guarded([&] { _platform.globalQueue.async([this] { checkReset(); }); });
 }
 
-// Blocks its background thread for as long as the download takes. What the defaults say is read
-// once, before anything is written, and decides all that follows.
+// Blocks its background thread for as long as the download takes. Reads the defaults once, before
+// it writes any; all decisions follow from what was read.
 void Service::checkReset() {
   auto& defaults = _platform.userDefaults;
   const ResetState state{.bundleID = bundleID(),
@@ -25,8 +25,7 @@ void Service::checkReset() {
                          .lastVersion = defaults.objectForKey(keys::kRecommenderLastVersion),
                          .resetNumber = defaults.objectForKey(keys::kRecommenderResetNumber)};
 
-  // Before the download and whatever becomes of it: an update whose check fails is an update no
-  // longer at the next launch.
+  // Before the download, and even if that fails: the next launch is then no update any more.
   if (state.versionChanged())
     defaults.setObject(state.bundleVersion, keys::kRecommenderLastVersion);
 

@@ -13,7 +13,7 @@
 
 namespace wrenvale {
 
-// What the controller has of the host's.
+// The host's menus.
 struct KVXWrenvaleController::Menus {
   std::unique_ptr<platform::Menu> mainMenu;
   std::unique_ptr<platform::Menu> helpMenu;
@@ -73,8 +73,8 @@ void KVXWrenvaleController::setHelpMenu(QMenu* helpMenu) {
   guarded([&] { made(_menus).helpMenu = _service.platform().menus.menu(helpMenu); });
 }
 
-// The names come last, so that the new items' translations may have the placeholder too. An item
-// outlives the controller, whose menus tell whether it is still there.
+// Replaces the names last, since translations of the new items may have the placeholder too. An
+// item may outlive the controller, and knows by `alive` whether it did.
 void KVXWrenvaleController::awakeFromNib() {
   guarded([&] {
     auto& menus = made(_menus);

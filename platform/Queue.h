@@ -13,8 +13,7 @@ class Queue {
 public:
   using Task = std::function<void()>;
 
-  /// More are dropped, as nobody means so many: a page's script that never stops, say, would fill
-  /// the memory of its host.
+  /// More are dropped: a page's script that never stops, say, would fill the host's memory.
   static constexpr std::size_t kMostWaiting = 1000;
 
   virtual ~Queue() = default;

@@ -52,7 +52,7 @@ public:
 
   /// The main frame's page is about to run its first script: the time to publish a script object.
   /// `origin` is whose page it is (scheme, host and port), as the engine knows it; empty for a page
-  /// that is nobody's.
+  /// without one.
   virtual void didClearWindowObject(std::string_view origin) = 0;
   /// A script called a published method. The result is what the page gets: null, a boolean, an
   /// integer or a string; nothing makes the call a script error in the page.

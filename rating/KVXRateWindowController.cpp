@@ -96,8 +96,8 @@ void KVXRateWindowController::buttonAction(RateButton sender) {
   });
 }
 
-// The end is marked first: whatever opening the link or the handler brings about, be it the close
-// button in an event loop of their own, adds nothing to the session.
+// Marks the end first: the link or the handler may run an event loop in which the user closes the
+// window, and that must add nothing to the session.
 void KVXRateWindowController::endWith(std::int64_t code, const std::function<void()>& link) {
   _ended = true;
   _addHistory(code);

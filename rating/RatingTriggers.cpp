@@ -26,8 +26,8 @@ SharedOverlay dim(platform::Windows& windows, HostWindow* window) {
   return overlay;
 }
 
-// The dimming does not fade out but is there to the last. The overlay goes in a turn of its own, so
-// never within a call of its own.
+// The dimming does not fade out: it stays to the end. The overlay is destroyed in a later turn,
+// never from within its own call.
 void removeAfterAnimation(const SharedOverlay& overlay, platform::Queue& mainQueue) {
   if (!*overlay) return;
   (*overlay)->animateAlpha(kDimmed, [overlay, &mainQueue] {
@@ -53,7 +53,7 @@ void Service::_storeRateHistory(const std::vector<std::int64_t>& history, Date w
       keys::kVersionRatings);
 }
 
-// Before the host's launch is handled, a trigger does that part of it which decides.
+// A trigger may come before the launch is handled; it then does the part of it that decides.
 bool Service::mayAskForRating() {
   return guarded([&] {
     if (!bundleID()) return false; // the answer could not be kept
@@ -67,8 +67,8 @@ bool Service::triggerRatingWithCompletitionHandler(CompletitionHandler completit
   return triggerRatingWithWindow(nullptr, std::move(completitionHandler));
 }
 
-// A session over a parent is over by the time it would be marked, and so files as not triggered;
-// one that was open before, from the Help menu, is marked.
+// A session over a parent has ended when this could mark it, so its record says "not triggered". A
+// session that was already open, from the Help menu, is marked.
 bool Service::triggerRatingWithWindow(HostWindow* window, CompletitionHandler completitionHandler) {
   if (!mayAskForRating()) return false;
   if (!_rateAppWithWindow(window, std::move(completitionHandler))) return false;

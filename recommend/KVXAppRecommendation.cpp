@@ -30,7 +30,7 @@ KVXAppRecommendation::Image KVXAppRecommendation::image(ImageProperty property) 
   return images_[property];
 }
 
-// Swapped, so that the old picture is freed outside the lock.
+// Swaps, so that the old picture is freed outside the lock.
 void KVXAppRecommendation::setImage(ImageProperty property, Image image) {
   const std::lock_guard lock(mutex_);
   images_[property].swap(image);

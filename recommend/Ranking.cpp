@@ -54,8 +54,8 @@ Run mergeRuns(Run left, Run middle, Run end, Run output, Comparison& compare) {
   return std::move(right, end, output);
 }
 
-// A bottom-up merge sort. Unlike the standard algorithms it holds for a comparison that contradicts
-// itself: each step only ever takes the head of one of two runs, whichever that is.
+// A bottom-up merge sort. Unlike std::sort it is safe with a comparison that contradicts itself:
+// each step takes the head of one of two runs, whichever the comparison says.
 void mergeSort(std::vector<Entry>& entries, Comparison& compare) {
   std::vector<Entry> merged(entries.size());
   const std::size_t count = entries.size();

@@ -1,5 +1,4 @@
-// The service's recommendations: fetching the document, and asking and publishing around the
-// decisions of recommend/.
+// The service's recommendations: downloads the document, has it ranked, hands the list over.
 
 #include "core/Service.h"
 
@@ -53,7 +52,7 @@ bool Service::_isAppInstalledWithBundleID(std::string_view bundleID) const {
       .has_value();
 }
 
-// Swapped, so that whatever the old function holds is let go of outside the lock.
+// Swaps, so that the old function is destroyed outside the lock.
 void Service::setPurchaseRecord(std::function<bool()> purchaseRecord) {
   guarded([&] {
     const std::lock_guard lock(_purchaseRecordMutex);

@@ -27,7 +27,7 @@ void applyOverrides(const Dependency& dependency, Candidate& candidate) {
   if (auto description = dependency.description()) candidate.description = std::move(*description);
 }
 
-// What the candidate's dependencies earn together; those that hold leave their marks on it.
+// The points of all dependencies that hold; each of them may also replace texts of the record.
 std::int64_t bonusOf(Candidate& candidate, const Context& context) {
   std::int64_t bonus = 0;
   for (const Dependency& dependency : candidate.dependencies) {

@@ -8,7 +8,7 @@
 #include "core/Identity.h"
 #include "core/Service.h"
 #include "platform/Platform.h"
-#include "welcome/PageRules.h"
+#include "welcome/PagePolicy.h"
 #include "welcome/ScriptBridge.h"
 #include "welcome/ThankYouAlert.h"
 
@@ -18,7 +18,7 @@ namespace {
 
 constexpr std::chrono::seconds kPageTimeout{60};
 
-// The alert's default button, and whatever else is not its "Cancel", leads to the application.
+// Every answer but "Cancel" leads to the application.
 void followAlert(const Recommendation& recommendation, int answer,
                  const platform::Platform& platform) {
   if (answer == platform::kAlertAlternateReturn) return;
@@ -80,7 +80,7 @@ void KVXRecommenderWindowController::_sendRecommendations() {
   });
 }
 
-// A page without the function has lost the list for good.
+// Sends once: a page that does not define the function never gets the list.
 void KVXRecommenderWindowController::sendRecommendationsNow() {
   if (_recomendationsSent || !_javascriptReady || !_recommendations) return;
   auto* page = _window ? _window->webView() : nullptr;

@@ -7,7 +7,7 @@
 // after telling the user when the window can be seen.
 //
 // Main thread only. Held by std::shared_ptr: it stays alive while one of its operations runs, so
-// the delegate may let go of it. What happens after that reaches nobody.
+// the delegate may let go of it. Whatever the page does after that has no effect.
 
 #ifndef WRENVALE_WELCOME_KVXRECOMMENDERWINDOWCONTROLLER_H
 #define WRENVALE_WELCOME_KVXRECOMMENDERWINDOWCONTROLLER_H

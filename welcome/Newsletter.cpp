@@ -49,8 +49,8 @@ bool someAndAll(std::string_view text, Predicate predicate) {
 
 } // namespace
 
-// Nothing needs to be tried twice: neither side of the "@" may hold another one, and the last label
-// holds no dot, so that it begins behind the last one.
+// One pass is enough: neither side of the "@" may hold another one, and the last label begins after
+// the last dot.
 bool isEmailAddress(std::string_view text) {
   const auto at = text.find('@');
   const auto dot = text.rfind('.');

@@ -1,4 +1,4 @@
-// What the maker's page may have done and may ask; ScriptBridge.h says under which names.
+// The operations that the maker's page may call; ScriptBridge.h has their names.
 
 #include <algorithm>
 #include <utility>
@@ -9,15 +9,15 @@
 #include "platform/Platform.h"
 #include "welcome/KVXRecommenderWindowController.h"
 #include "welcome/Newsletter.h"
-#include "welcome/PageRules.h"
+#include "welcome/PagePolicy.h"
 #include "welcome/ScriptBridge.h"
 
 namespace wrenvale {
 
 namespace {
 
-// No key can encrypt as much: what is cut off here is refused by the encryption all the same, and
-// takes no memory while it waits.
+// No key can encrypt as much, so the encryption refuses such an address either way; cut, it takes
+// less memory while it waits.
 constexpr std::size_t kLongestAddressKept = 10'000;
 
 // Codes are ASCII.

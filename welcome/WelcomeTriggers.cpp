@@ -1,5 +1,5 @@
-// The service's window with the maker's page: when it exists, in which of its two modes, and what
-// its end settles.
+// The service's window with the maker's page: when it opens, in which of its two modes, and what
+// its end changes.
 
 #include "core/Service.h"
 

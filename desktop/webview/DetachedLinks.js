@@ -1,5 +1,5 @@
 // A click on a link that is in no document, such as a script's createElement("a").click(), reaches
-// no listener of the document's. So this tells Manners.js of it beforehand. It runs in the page's
+// no listener of the document's. So this tells PageRules.js of it beforehand. It runs in the page's
 // own world, where the page's scripts call what it replaces; one that gets around it is taken for a
 // script that sets the address.
 (function () {

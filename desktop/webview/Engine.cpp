@@ -17,7 +17,7 @@ namespace wrenvale::platform {
 
 namespace {
 
-// A variable that is set is the only place that the engine looks at.
+// When the variable is set, the engine looks nowhere else.
 QStringList placesOf(const char* variable, const QStringList& usual) {
   const QString given = qEnvironmentVariable(variable);
   return given.isEmpty() ? usual : QStringList(given);
@@ -47,8 +47,8 @@ bool isSandboxSwitchedOff() {
          qgetenv("QTWEBENGINE_CHROMIUM_FLAGS").split(' ').contains("--no-sandbox");
 }
 
-// Asks as the engine does, with a process that shares this one's memory and ends at once, while the
-// thread that asks waits for it.
+// Tries what the engine does: starts a process with namespaces of its own, which shares this one's
+// memory and ends at once while this thread waits.
 bool grantsNamespaces() {
   alignas(16) static std::array<char, 16384> stack;
   const auto end = [](void*) { return 0; };

@@ -41,10 +41,10 @@ void end() {
     delete object;
 }
 
-// A host may exit() with its application object still there, and the engine's statics would be
-// destroyed while its threads still draw. The main thread's own objects go before all statics, the
-// latest of them first: this one is destroyed while the engine is whole, and gives it the orderly
-// end. A child process that was only forked has no threads to end, and what needs them stays.
+// A host may call exit() while its application object still exists; the engine's statics would then
+// be destroyed while its threads still draw. This object is thread-local to the main thread: exit()
+// destroys such objects before all statics, the latest first, while the engine is whole. Its
+// destructor ends the engine in order. A forked child has no threads to end, and keeps all objects.
 class EndOnExit {
 public:
   ~EndOnExit() {

@@ -28,7 +28,7 @@ std::string text(const QUrl& url) {
   return url.toEncoded().toStdString();
 }
 
-// What a page of the web may go to; everything else is of this machine or of other programs.
+// Whether a page may go there; other schemes lead to this machine or to other programs.
 bool isOfTheWeb(const QUrl& url) {
   for (const char* scheme : {"http", "https", "about", "data", "blob", "javascript"})
     if (url.scheme() == QLatin1String(scheme)) return true;
@@ -47,7 +47,7 @@ QWebEngineScript script(const QString& name, const QString& source, quint32 worl
 
 } // namespace
 
-// While one is there, the page is in the middle of something.
+// Exists while a call of the delegate is under way.
 class Page::Call {
 public:
   explicit Call(Page& page)
@@ -67,7 +67,7 @@ private:
 Page::Page(QWebEngineProfile& profile, WebViewDelegate& delegate)
     : QWebEnginePage(&profile)
     , delegate_(&delegate) {
-  settle();
+  configure();
   refuseRequests();
   insertScripts();
   timeout_.setSingleShot(true);
@@ -83,7 +83,7 @@ Page::Page(QWebEngineProfile& profile, WebViewDelegate& delegate)
   });
 }
 
-// Whatever else goes reports nothing any more.
+// What is destroyed with the page must report nothing any more.
 Page::~Page() {
   delegate_ = nullptr;
   disconnect(this, nullptr, this, nullptr);
@@ -97,8 +97,8 @@ void Page::retire() {
   if (calls_ == 0) deleteLater();
 }
 
-// Most of it is the engine's default, which a later engine may change.
-void Page::settle() {
+// Most of these are defaults, but a later engine may change them.
+void Page::configure() {
   using Settings = QWebEngineSettings;
   for (const auto attribute :
        {Settings::ErrorPageEnabled, Settings::PluginsEnabled, Settings::PdfViewerEnabled,
@@ -125,7 +125,7 @@ void Page::refuseRequests() {
           [](QWebEngineRegisterProtocolHandlerRequest request) { request.reject(); });
   connect(this, &QWebEnginePage::fileSystemAccessRequested, this,
           [](QWebEngineFileSystemAccessRequest request) { request.reject(); });
-  // Unanswered, the engine would try again and again without a name.
+  // Without an answer, the engine would try again and again.
   connect(this, &QWebEnginePage::authenticationRequired, this,
           [](const QUrl&, QAuthenticator* answer) { *answer = QAuthenticator(); });
 }
@@ -133,9 +133,9 @@ void Page::refuseRequests() {
 void Page::insertScripts() {
   scripts().insert(
       script("script object", scriptObject_.source(), QWebEngineScript::MainWorld, false));
-  scripts().insert(script("detached links", NavigationRemarks::pagesSource(),
-                          QWebEngineScript::MainWorld, true));
-  scripts().insert(script("manners", remarks_.source(), QWebEngineScript::ApplicationWorld, true));
+  scripts().insert(
+      script("detached links", NavigationHints::pagesSource(), QWebEngineScript::MainWorld, true));
+  scripts().insert(script("page rules", hints_.source(), QWebEngineScript::ApplicationWorld, true));
 }
 
 void Page::start(const QUrl& url, std::chrono::milliseconds timeout) {
@@ -151,13 +151,13 @@ void Page::start(const QUrl& url, std::chrono::milliseconds timeout) {
 
 bool Page::acceptNavigationRequest(const QUrl& url, NavigationType type, bool isMainFrame) {
   if (!delegate_ || !isOfTheWeb(url)) return false;
-  const bool use = decide(url, remarks_.typeOf(url, type), isMainFrame) == PolicyDecision::kUse;
+  const bool use = decide(url, hints_.typeOf(url, type), isMainFrame) == PolicyDecision::kUse;
   if (use && isMainFrame) begin(url);
   return use;
 }
 
-// Redirections share the time that is left. A page that has begun may lead on to another one,
-// before it has shown itself or later, and that has a time of its own.
+// Redirections share the time that is left. A page that has begun may lead on to another page,
+// which has a time-out of its own.
 void Page::begin(const QUrl& url) {
   awaited_ = url;
   if (!delegate_ || timeout_.isActive()) return;
@@ -175,10 +175,11 @@ bool Page::javaScriptPrompt(const QUrl& origin, const QString& message, const QS
                             QString* result) {
   if (!delegate_) return false;
   const Call call(*this);
-  return scriptObject_.isGreeting(message) ? greet(origin, *result) : perform(message, *result);
+  return scriptObject_.isHandshake(message) ? answerHandshake(origin, *result)
+                                            : perform(message, *result);
 }
 
-bool Page::greet(const QUrl& origin, QString& result) {
+bool Page::answerHandshake(const QUrl& origin, QString& result) {
   timeout_.stop();
   hasDocument_ = hadDocument_ = true;
   scriptObject_.clear();
@@ -197,10 +198,10 @@ bool Page::perform(const QString& message, QString& result) {
   return true;
 }
 
-// What pages say on the console is of no interest to the host.
+// The host takes hints from the console and ignores the rest.
 void Page::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString& message, int,
                                     const QString&) {
-  const auto unasked = remarks_.note(message);
+  const auto unasked = hints_.note(message);
   if (unasked && delegate_) decide(*unasked, platform::NavigationType::kLinkClicked, true);
 }
 
@@ -212,14 +213,14 @@ void Page::onLoading(const QWebEngineLoadingInfo& info) {
     onEnd(info);
 }
 
-// A page has arrived when it has begun: what cuts it off later is no failure, and neither is one
-// that tells of an error. A load that something else took the place of is one only when there is
-// nothing to see: a download, say.
+// A page has arrived when its document has begun: neither a connection that breaks later nor a page
+// that tells of an error is a failure. A load that turns into something else (a download, say) is a
+// failure only while there is no page to see.
 void Page::onEnd(const QWebEngineLoadingInfo& info) {
   using Info = QWebEngineLoadingInfo;
   const bool arrived = hasDocument_ || info.status() == Info::LoadSucceededStatus ||
                        info.errorDomain() == Info::HttpStatusCodeDomain;
-  // From Qt 6.8 on, a page's end may be told after the one that it leads on to has begun.
+  // From Qt 6.8 on, the end of a page may be reported after the next page has begun.
   if (arrived && timeout_.isActive() && info.url() != awaited_) return;
   timeout_.stop();
   if (arrived) {
@@ -229,13 +230,13 @@ void Page::onEnd(const QWebEngineLoadingInfo& info) {
   }
 }
 
-// The engine asks nobody about addresses that are for other programs.
+// The engine does not ask acceptNavigationRequest() about addresses for other programs.
 void Page::onLeaving(const QUrl& url) {
-  if (!isOfTheWeb(url) && remarks_.isClickedLink(url))
+  if (!isOfTheWeb(url) && hints_.isClickedLink(url))
     decide(url, platform::NavigationType::kLinkClicked, true);
 }
 
-// No window ever comes of it, whatever the answer.
+// Opens no window, whatever the answer.
 void Page::onNewWindow(const QWebEngineNewWindowRequest& request) {
   if (!delegate_) return;
   const Call call(*this);
@@ -243,7 +244,7 @@ void Page::onNewWindow(const QWebEngineNewWindowRequest& request) {
   delegate_->decidePolicyForNavigationAction(
       {.url = text(url),
        .mainDocumentURL = text(url),
-       .type = remarks_.typeOfNewWindow(url, request.isUserInitiated())});
+       .type = hints_.typeOfNewWindow(url, request.isUserInitiated())});
 }
 
 void Page::fail(const QUrl& url, const char* reason, const char* advice) {

@@ -9,7 +9,7 @@
 #include <QWebEngineNewWindowRequest>
 #include <QWebEnginePage>
 
-#include "desktop/webview/NavigationRemarks.h"
+#include "desktop/webview/NavigationHints.h"
 #include "desktop/webview/ScriptObject.h"
 #include "platform/WebView.h"
 
@@ -43,11 +43,11 @@ protected:
 private:
   class Call;
 
-  void settle();
+  void configure();
   void refuseRequests();
   void insertScripts();
   void begin(const QUrl& url);
-  bool greet(const QUrl& origin, QString& result);
+  bool answerHandshake(const QUrl& origin, QString& result);
   bool perform(const QString& message, QString& result);
   void onLoading(const QWebEngineLoadingInfo& info);
   void onEnd(const QWebEngineLoadingInfo& info);
@@ -58,7 +58,7 @@ private:
 
   WebViewDelegate* delegate_; // null once retired
   ScriptObject scriptObject_;
-  NavigationRemarks remarks_;
+  NavigationHints hints_;
   QTimer timeout_;
   QUrl awaited_;             // what the page last went to
   bool hasDocument_ = false; // since this navigation began

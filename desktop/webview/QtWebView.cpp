@@ -14,7 +14,7 @@ namespace wrenvale::platform {
 
 namespace {
 
-// The item in this tree that is to have the keyboard's focus and has not got it.
+// The item in this tree that should have the keyboard's focus but has not.
 QQuickItem* itemWithoutItsFocus(QQuickItem* item) {
   if (item->hasFocus() && !item->hasActiveFocus() && !item->isFocusScope()) return item;
   for (auto* child : item->childItems())
@@ -38,8 +38,8 @@ public:
   using QWebEngineView::QWebEngineView;
 
 protected:
-  // Each page has a widget to draw in, and the first one brings what it is drawn with. The engine
-  // deletes that widget later than the page, which is too late at the end of the process.
+  // The engine draws each page in a child widget of its own, and deletes that later than the page,
+  // which is too late at the end of the process.
   void childEvent(QChildEvent* event) override {
     QWebEngineView::childEvent(event);
     if (event->added()) destroyBeforeEngine({event->child()});
@@ -66,8 +66,8 @@ protected:
   }
 
 private:
-  // A page knows the size of its window from what it is drawn in, which with Qt 6.8 hears nothing
-  // of the window while the view is hidden.
+  // A page learns the size of its window from that child widget's window. With Qt 6.8, that one is
+  // not told of the window while the view is hidden.
   void tellWindow() {
     if (!window()->isVisible()) return;
     for (auto* drawing : findChildren<QQuickWidget*>())
@@ -75,7 +75,7 @@ private:
   }
 };
 
-// Keeps pages from what a host carries in its own resources. The engine refuses files by itself.
+// Keeps pages from the resources compiled into the host. The engine refuses files by itself.
 class OnlyTheWeb final : public QWebEngineUrlRequestInterceptor {
 public:
   using QWebEngineUrlRequestInterceptor::QWebEngineUrlRequestInterceptor;
@@ -112,7 +112,7 @@ QtWebView::QtWebView(WebViewDelegate& delegate, const PageRequest& request)
   page_->start(QUrl(fromUTF8(request.url)), request.timeout);
 }
 
-// The view goes first: it has no use for a page that is on its way out.
+// The view goes first, since it uses the page.
 QtWebView::~QtWebView() {
   if (view_) view_->deleteLater();
   if (page_) page_->retire();

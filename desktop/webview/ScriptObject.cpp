@@ -93,7 +93,7 @@ std::optional<ScriptObject::Call> ScriptObject::call(const QString& message) {
   return call;
 }
 
-// A script may break off in the middle of a call, so a beginning forgets what was there.
+// A script may break off in the middle of a call, so each first piece drops the pieces before it.
 std::optional<QString> ScriptObject::assembled(QChar kind, QStringView piece) {
   if (kind == 'w' || kind == 'b') pieces_.clear();
   if (kind == 'w') return piece.toString();

@@ -28,8 +28,8 @@ public:
   /// The page's half, to be run at the beginning of each document of the main frame.
   QString source() const;
 
-  bool isGreeting(const QString& message) const { return message == secret_; }
-  /// A document has begun, or the page is gone: what was published is no longer, whoever has it.
+  bool isHandshake(const QString& message) const { return message == secret_; }
+  /// A document has begun, or the page is gone: ends what was published to the one before.
   void clear();
   void publish(std::string_view name, const std::vector<ScriptMethod>& methods);
   bool isPublished() const { return !token_.isEmpty(); }

@@ -1,4 +1,4 @@
-// Texts that nobody guesses.
+// Texts that cannot be guessed.
 
 #ifndef WRENVALE_DESKTOP_WEBVIEW_SECRET_H
 #define WRENVALE_DESKTOP_WEBVIEW_SECRET_H

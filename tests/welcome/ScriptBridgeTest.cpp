@@ -83,7 +83,8 @@ TEST_F(WelcomeTest, ResizesAroundTheCentre) {
 
 TEST_F(WelcomeTest, SubscribesAddresses) {
   auto& page = open();
-  const std::string longest = std::string(106, 'a') + "@b.de"; // with "email=" 117 bytes
+  std::string longest(106, 'a');
+  longest += "@b.de"; // with "email=" 117 bytes
   for (const auto& address : {std::string("Ann+tag@b.de"), longest, "a" + longest})
     EXPECT_EQ(page.call("subscribe", {address}), Value(true));
   EXPECT_TRUE(fake.urlLoading.requests.empty()) << "before any network activity";

@@ -67,7 +67,7 @@ DefaultsContent contentOfFile(const std::string& path) {
   return contentFromBytes(*bytes, identity);
 }
 
-// The file that the path leads to, there or not; nothing when links lead in a circle.
+// The file that the path leads to, whether it exists or not; nothing when links form a circle.
 std::optional<std::string> followLinks(std::string path) {
   for (int i = 0; i < kMostLinks; ++i) {
     char buffer[4096];
@@ -79,7 +79,7 @@ std::optional<std::string> followLinks(std::string path) {
   return std::nullopt;
 }
 
-// A name that nothing has yet, for the damaged file at `path`; empty when there is none left.
+// An unused name for the damaged file at `path`; empty when all are used.
 std::string nameForDamaged(const std::string& path) {
   for (int i = 1; i <= kMostDamagedFiles; ++i) {
     auto name = path + ".damaged" + (i > 1 ? "-" + std::to_string(i) : "");
@@ -126,7 +126,7 @@ struct Encoded {
   std::vector<std::string> tooLarge;
 };
 
-// With as many of the changes as fit, the largest left out first.
+// Applies as many changes as fit, leaving out the largest first.
 std::optional<Encoded> encode(const Value& dictionary, Value::Dictionary changes) {
   std::vector<std::string> tooLarge;
   for (;;) {

@@ -30,12 +30,12 @@ std::vector<std::string> DefaultsObservers::keys() const {
 
 void DefaultsObservers::notify(std::string_view key) const {
   for (const auto id : idsOf(key)) {
-    // Asked for again, as an observer before it may have removed it.
+    // Looked up again, since an earlier observer may have removed it.
     const auto observer = observerWithID(id);
     try {
       if (observer && *observer) (*observer)();
     } catch (...) {
-      // The host's own concern; the other observers are called all the same.
+      // An observer of the host's threw; the others are called all the same.
     }
   }
 }

@@ -33,8 +33,8 @@ timespec justAfter(timespec time) {
   return {time.tv_sec + 1, 0};
 }
 
-// Two replacements within one tick of the file system's clock may get the same inode in turn, and
-// would look the same but for this.
+// Two replacements within one tick of the file system's clock may get the same inode, and would
+// look the same without this.
 bool makeLater(int descriptor, const struct stat& old) {
   struct stat fresh = {};
   if (fstat(descriptor, &fresh) != 0) return false;
@@ -43,7 +43,7 @@ bool makeLater(int descriptor, const struct stat& old) {
   return futimens(descriptor, times) == 0;
 }
 
-// A host run by the superuser for once must not take the file away from the user.
+// A host that the superuser runs once must not take the file away from the user.
 bool takeAfter(int descriptor, const struct stat& old) {
   const bool isOwners = old.st_uid == geteuid() && old.st_gid == getegid();
   if (!isOwners && fchown(descriptor, old.st_uid, old.st_gid) != 0 && errno != EPERM) return false;

@@ -28,8 +28,8 @@ private:
   const int number_;
 };
 
-// Answered before opening too: that alone would wake some devices, and it can take the system twice
-// as long to fail to open a file as to say that there is none.
+// Checked before opening: opening alone would wake some devices, and failing to open a missing file
+// can take twice as long as stat().
 bool isRegularFile(const char* path) {
   struct stat status;
   return ::stat(path, &status) == 0 && S_ISREG(status.st_mode);
@@ -50,7 +50,7 @@ ssize_t readSome(int file, char* to, std::size_t size) {
 
 } // namespace
 
-// The size that the system states is not used: files that the kernel makes up state a wrong one.
+// Ignores the stated size, which is wrong for the kernel's own files.
 std::optional<std::string> beginningOfFile(const char* path, std::size_t limit) {
   if (!isRegularFile(path)) return std::nullopt;
   const Descriptor file(::open(path, O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
@@ -118,7 +118,7 @@ FileLock::FileLock(const std::string& path, Deadline deadline)
     : file_(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0600))
     , isHeld_(file_ && acquire(file_.get(), deadline)) {}
 
-// Closing alone would not do: a process forked meanwhile has the file open too.
+// Unlocks before closing: a process forked meanwhile has the file open too.
 FileLock::~FileLock() {
   if (isHeld_) flock(file_.get(), LOCK_UN);
 }

@@ -15,7 +15,7 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-// Several settings as a rule change together.
+// Waits for more changes: several settings usually change together.
 constexpr std::chrono::milliseconds kGatherTime(50);
 constexpr std::chrono::seconds kPatience(10);
 constexpr std::chrono::seconds kPatienceAtExit(3);
@@ -64,8 +64,8 @@ void LinuxUserDefaults::notify(const std::vector<std::string>& keys) const {
     observers_.notify(key);
 }
 
-// Takes in what other processes wrote; the observed keys that it changed. Locked. The first reading
-// changes nothing: nobody was told of anything else before.
+// Takes over what other processes wrote, and returns the observed keys that changed. Called with
+// the lock held. The first reading changes no key, since no observer has seen another value.
 std::vector<std::string> LinuxUserDefaults::refresh() const {
   if (!file_) return {};
   const auto identity = file_->identity();
@@ -106,7 +106,8 @@ void LinuxUserDefaults::removeObserver(ObserverID id) {
   observers_.remove(id);
 }
 
-// Locked. A system without a thread to spare writes with the next change or at the end.
+// Called with the lock held. When the system has no thread to give, the next change or the end of
+// the process writes.
 void LinuxUserDefaults::startWriter() {
   if (!file_ || isWriterRunning_) return;
   const BlockedSignals signalsBlocked;
@@ -129,8 +130,8 @@ void LinuxUserDefaults::writeInBackground() {
   changed_.notify_all();
 }
 
-// Writes all that is unwritten when the call begins; false when that did not become durable. Called
-// locked, and unlocks while the disk is at work.
+// Writes all that is unwritten when the call begins; false when it did not become durable. Called
+// with the lock held, and releases it while the disk works.
 bool LinuxUserDefaults::write(Lock& lock, FileLock::Deadline deadline) {
   if (!changed_.wait_until(lock, deadline, [this] { return !isWriting_; })) return false;
   const auto batch = memory_.unwritten();
@@ -147,7 +148,8 @@ bool LinuxUserDefaults::write(Lock& lock, FileLock::Deadline deadline) {
   return merged->tooLarge.empty();
 }
 
-// Whatever another thread or a signal handler's victim is doing, the process must get to its end.
+// Never waits for ever: another thread, or code that a signal handler interrupted, may hold the
+// lock.
 void LinuxUserDefaults::processWillExit() {
   const auto deadline = Clock::now() + kPatienceAtExit;
   Lock lock(mutex_, std::try_to_lock);

@@ -10,7 +10,7 @@ namespace {
 
 using Parts = std::vector<std::string_view>;
 
-// Unlike those of <cctype>, blind to the process's own locale.
+// Unlike those of <cctype>, they do not depend on the process's locale.
 bool isLetter(char c) {
   return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
 }

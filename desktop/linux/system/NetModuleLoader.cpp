@@ -18,8 +18,8 @@ const NetModule* NetModuleLoader::module() {
   return module_;
 }
 
-// The flag is looked at after loading: whoever cancels either finds the module and cancels there,
-// or has set the flag before it could be found.
+// Checks the flag again after loading: a cancelling thread either finds the module and cancels
+// there, or has set the flag before the module could be found.
 std::optional<std::string> NetModuleLoader::sendSynchronousRequest(const URLRequest& request) {
   if (cancelled_) return std::nullopt;
   const auto* net = module();

@@ -27,7 +27,7 @@ using Owned = std::unique_ptr<Type, Free>;
 
 constexpr std::int16_t kUnknownError = -1;
 
-// An encrypted block has no password to ask anybody for.
+// Never ask the user for the password of an encrypted block.
 int refusePassword(char*, int, int, void*) {
   return -1;
 }

@@ -60,8 +60,7 @@ Headers headerList(const URLRequest& request) {
   return list;
 }
 
-// One request and its answer. Looks at the time and at `stop` whenever anything arrives, whatever
-// it is.
+// One request and its answer. Checks the time and `stop` whenever any byte arrives.
 class Exchange {
 public:
   Exchange(const std::string& url, curl_slist* headers, const std::stop_token& stop,
@@ -111,7 +110,7 @@ private:
     set(CURLOPT_QUICK_EXIT, 1L); // waits for no name server
   }
 
-  // Only the certificates that a server calls for are read: the system's file has them all.
+  // Reads only the certificates that a server needs: the system's file has all of them.
   void setTrust() {
     set(CURLOPT_CAINFO, static_cast<const char*>(nullptr));
     set(CURLOPT_CAPATH, static_cast<const char*>(nullptr));
@@ -145,7 +144,7 @@ private:
     return static_cast<Exchange*>(self)->mustEnd() ? 1 : 0;
   }
 
-  // An answer of another size than what arrived ends the exchange.
+  // curl ends the exchange when a callback returns another size than it was given.
   std::size_t receiveHeadLine(std::string_view line) {
     headSize_ += line.size();
     isHeadWhole_ = line == "\r\n" || line == "\n";

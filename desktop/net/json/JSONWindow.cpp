@@ -24,8 +24,8 @@ struct Child {
   element value;
 };
 
-// The first few in place and only the others in memory of their own: nearly all arrays and objects
-// of real documents are small.
+// Keeps the first few in place and allocates only for more: nearly all arrays and objects of real
+// documents are small.
 template <class Item, std::size_t kInPlace>
 class Items {
 public:
@@ -100,7 +100,7 @@ public:
   }
 
 private:
-  // One bit of 64, the same for equal keys: one that is not marked yet needs no search.
+  // One of 64 bits, the same for equal keys: a key whose bit is not set yet needs no search.
   static std::uint64_t markOf(std::string_view key) {
     if (key.empty()) return 1;
     return std::uint64_t{1} << ((key.size() * 5 + key.front() * 3 + key.back()) & 63);

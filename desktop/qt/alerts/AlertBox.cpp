@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kIconSize = 64;
 constexpr qsizetype kMostShown = 1'000;
-// No line is broken within a word, and one of this length still fits.
+// Qt breaks no line within a word; a word of this length still fits.
 constexpr qsizetype kLongestWord = 40;
 
 QString cut(const QString& text, qsizetype length) {
@@ -61,7 +61,7 @@ void AlertBox::addTexts(const Alert& alert) {
   setTextFormat(Qt::PlainText);
   setText(breakable(message));
   setInformativeText(breakable(cut(informative, kMostShown - message.size())));
-  // setTextFormat() is about the other text only.
+  // setTextFormat() does not apply to this one.
   if (auto* label = findChild<QLabel*>("qt_msgbox_informativelabel"))
     label->setTextFormat(Qt::PlainText);
   if (auto* label = findChild<QLabel*>("qt_msgbox_label")) {
@@ -71,7 +71,7 @@ void AlertBox::addTexts(const Alert& alert) {
   }
 }
 
-// Qt's layout of a box without an icon begins with a space as wide as one of a small icon's.
+// Without an icon, Qt's layout still begins with an empty column.
 void AlertBox::removeEmptyIndent() {
   auto* columns = static_cast<QGridLayout*>(layout());
   for (int i = columns->count(); i-- > 0;)

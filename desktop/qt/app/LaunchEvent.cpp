@@ -22,8 +22,8 @@ void launch() {
     handler();
 }
 
-// The main thread's dispatcher begins a turn; inside a loop that is the host's launch. Called
-// before the dispatcher looks at any event, so before everything that the host queued.
+// Called at the beginning of each turn of the main thread's dispatcher, before it looks at any
+// event that the host queued. The first turn inside an event loop is the host's launch.
 void turn(QObject* connections) {
   if (QThread::currentThread()->loopLevel() == 0) return;
   connections->deleteLater();

@@ -89,9 +89,8 @@ bool QtApplication::registerFont(std::string_view resource, std::string_view ext
   return QFontDatabase::addApplicationFontFromData(data) >= 0;
 }
 
-// Without the destructors of the host, which expect to run on its main thread, and without the
-// locks of its streams, which that thread may hold. The framework writes to standard error alone,
-// unbuffered.
+// Runs no destructor of the host, which expects them on its main thread, and flushes no stream,
+// whose lock that thread may hold. The framework itself writes to standard error only, unbuffered.
 void QtApplication::terminate(int status) {
   userDefaults_.synchronize(kPatienceAtTermination);
   std::_Exit(status);

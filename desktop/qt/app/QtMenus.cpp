@@ -76,7 +76,7 @@ std::unique_ptr<Menu> QtMenus::menuBar(HostMenuBar* menuBar) const {
   return weakly(menuBar);
 }
 
-// A tab would begin what is shown as the item's key.
+// A menu shows what follows a tab as the item's key.
 std::string QtMenus::titleForText(std::string_view text) const {
   std::string title;
   for (const char character : text) {

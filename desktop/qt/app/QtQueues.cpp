@@ -110,8 +110,8 @@ namespace {
 
 constexpr std::chrono::milliseconds kPatienceAtExit{80};
 
-// What the handlers of the process's end, plain functions, are to end. A forked child has nothing
-// to end: the threads are its parent's.
+// For the exit handlers, which are plain functions. A forked child ends nothing: the threads are
+// its parent's.
 QtQueues* started = nullptr;
 pid_t startedBy = 0;
 

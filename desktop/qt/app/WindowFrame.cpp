@@ -11,7 +11,7 @@ namespace wrenvale::platform {
 
 namespace {
 
-// Also for what is no number, which is less than nothing.
+// NaN counts as below the minimum.
 double bounded(double value, double least, double most) {
   if (!(value > least)) return least;
   return value < most ? value : qMax(least, most);
@@ -60,8 +60,8 @@ bool WindowFrame::isMoving() const {
   return animation_.state() == QAbstractAnimation::Running;
 }
 
-// Without a window manager that tells, Qt works it out from sizes that do not belong together while
-// the window changes its own.
+// Not while the window moves: without a window manager Qt then computes the decoration from an old
+// and a new size.
 QSize WindowFrame::decoration() const {
   return isMoving() ? decoration_ : window_.frameGeometry().size() - window_.size();
 }
@@ -70,8 +70,9 @@ QRect WindowFrame::target() const {
   return isMoving() ? animation_.endValue().toRect() : window_.frameGeometry();
 }
 
-// Windows are in whole places. One that is where it was put tells where that was exactly: resized
-// around its centre again and again, it would wander by what is rounded off.
+// Windows stand at whole pixels, but a centre may fall between two. A window that has not moved
+// since setFrame() returns the exact frame that was set: else it would wander when it is resized
+// around its centre again and again.
 Frame WindowFrame::frame() const {
   const QRect frame = target();
   if (frame == rounded(set_)) return set_;

@@ -83,7 +83,8 @@ void QtRateWindow::close() {
   if (widget_) widget_->close();
 }
 
-// Whatever hid or destroyed the window without closing it left nothing that the user could close.
+// A window that was hidden or destroyed without being closed leaves nothing that the user could
+// close.
 void QtRateWindow::checkLater() {
   QMetaObject::invokeMethod(
       this,

@@ -99,7 +99,7 @@ bool RateWindowWidget::eventFilter(QObject* watched, QEvent* event) {
   return false;
 }
 
-// A view that goes from under the pointer is not left.
+// Reports no leaving when the view itself goes away under the pointer.
 void RateWindowWidget::reportHovering() {
   if (!isVisible()) return;
   const QWidget* now = isActiveWindow() ? underPointer_ : nullptr;
@@ -124,7 +124,7 @@ void RateWindowWidget::fillInTexts() {
   fit();
 }
 
-// For the usual size of a desktop's font; a larger one enlarges all of them as much.
+// The sizes are for the usual font of a desktop; a larger one enlarges all of them in proportion.
 void RateWindowWidget::setFontSizes() {
   const double font = QFontInfo(QApplication::font()).pointSizeF();
   const double scale = qBound(1.0, font / kUsualFontSize, kLargestScale);
@@ -147,7 +147,7 @@ void RateWindowWidget::remeasure() {
   layout()->activate();
 }
 
-// Wrapped texts need a height that depends on the width, which windows do not see to by themselves.
+// The height of wrapped texts depends on the width, and a window does not heed that by itself.
 void RateWindowWidget::fit() {
   remeasure();
   const int width = qMax(kSmallestWidth, layout()->totalMinimumSize().width());
@@ -223,7 +223,7 @@ void RateWindowWidget::keyPressEvent(QKeyEvent* event) {
 void RateWindowWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.fillRect(rect(), parent_ ? QColor(kBorder) : Qt::white);
-  // In whole pixels of the screen's, the same on all sides.
+  // Whole pixels of the screen, so that all sides look the same.
   const qreal scale = painter.deviceTransform().m11();
   const qreal border = std::floor(scale) / scale;
   painter.fillRect(QRectF(rect()).adjusted(border, border, -border, -border), Qt::white);

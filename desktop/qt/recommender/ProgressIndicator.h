@@ -1,4 +1,4 @@
-// A spinning wheel: something is going on, for nobody knows how long.
+// A spinning wheel, for work of unknown length.
 
 #ifndef WRENVALE_DESKTOP_QT_RECOMMENDER_PROGRESSINDICATOR_H
 #define WRENVALE_DESKTOP_QT_RECOMMENDER_PROGRESSINDICATOR_H

@@ -33,7 +33,7 @@ QtRecommenderWindow::QtRecommenderWindow(RecommenderWindowDelegate& delegate,
   frame_.centre();
   window_->installEventFilter(this);
   connect(window_, &QObject::destroyed, this, [this] { checkLater(); });
-  // A window of an application object that is gone is of no use in another one's time.
+  // The window must not be shown under a second application object.
   connect(qApp, &QObject::destroyed, this, [this] { window_ = nullptr; });
 }
 
@@ -123,7 +123,7 @@ void QtRecommenderWindow::beginSheet(const Alert& alert, std::function<void(int)
 
 void QtRecommenderWindow::raiseSheet(Sheet sheet) {
   auto* box = new AlertBox(sheet.first);
-  // The box tells while it is whole: when the sheet ends, it may be half destroyed.
+  // Read the answer while the box is whole: when the sheet ends, it may be half destroyed.
   const auto answer = std::make_shared<int>(AlertBox::closedAnswer(sheet.first));
   connect(box, &QDialog::finished, box, [box, answer] {
     *answer = box->answer();
@@ -144,7 +144,8 @@ void QtRecommenderWindow::close() {
   if (delegate) delegate->windowWillClose();
 }
 
-// Whatever hid or destroyed the window without closing it left nothing that the user could close.
+// A window that was hidden or destroyed without being closed leaves nothing that the user could
+// close.
 void QtRecommenderWindow::checkLater() {
   QMetaObject::invokeMethod(
       this, [this] { check(); }, Qt::QueuedConnection);

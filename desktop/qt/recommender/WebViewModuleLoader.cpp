@@ -22,10 +22,10 @@ void endSharing() {
   qt_gl_set_global_share_context(nullptr);
 }
 
-// The engine looks for a context that all others share with, as it is loaded. A host that wants one
-// has asked for it before it had an application object; for all others it is made only now, as it
-// would cost each launch tens of milliseconds. Without OpenGL it stays one that is not valid. It
-// goes after the engine, whose end is registered later and so comes first.
+// When it is loaded, the engine looks for the context that all others share with. A host that wants
+// one has asked Qt for it at its start. For all other hosts it is made here, since it would cost
+// each launch tens of milliseconds. Without OpenGL the context is not valid. It is destroyed after
+// the engine, whose end is registered later and so comes first.
 void shareContexts() {
   if (QOpenGLContext::globalShareContext()) return;
   auto* context = new QOpenGLContext;

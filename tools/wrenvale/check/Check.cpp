@@ -92,13 +92,13 @@ Findings findingsIn(const Document& document, const std::optional<fs::path>& sit
   if (isReset(document)) {
     static const JSONSchema schema(parsed(wrenvale_reset_schema, wrenvale_reset_schema_size));
     auto findings = schema.findingsIn(document.value);
-    add(findings, senseOfReset(document.value));
+    add(findings, checkResetSemantics(document.value));
     return findings;
   }
   static const JSONSchema schema(
       parsed(wrenvale_recommender_schema, wrenvale_recommender_schema_size));
   auto findings = schema.findingsIn(document.value);
-  add(findings, senseOfRecommender(document.value, known));
+  add(findings, checkRecommenderSemantics(document.value, known));
   if (site) add(findings, missingIcons(document.value, *site));
   return findings;
 }

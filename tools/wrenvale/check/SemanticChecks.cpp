@@ -45,8 +45,8 @@ void findRepeated(const std::string& id, const std::string& pointer, const char*
         {childOf(pointer, "bundle_id"), Error, id + " stands here twice; " + consequence});
 }
 
-void senseOfDependencies(const Candidate& candidate, const std::string& pointer,
-                         const Identifiers& known, const Identifiers& hosts, Findings& findings) {
+void checkDependencies(const Candidate& candidate, const std::string& pointer,
+                       const Identifiers& known, const Identifiers& hosts, Findings& findings) {
   std::size_t index = 0;
   for (const Dependency dependency : candidate.dependencies) {
     const auto id = textOf(dependency.bundleID());
@@ -78,7 +78,7 @@ Identifiers identifiersIn(const Value& recommenderDocument) {
   return result;
 }
 
-Findings senseOfReset(const Value& document) {
+Findings checkResetSemantics(const Value& document) {
   Findings findings;
   std::map<std::optional<std::string>, TakenBuilds> takenBuilds;
   for (std::size_t i = 0; i < document.size(); ++i) {
@@ -100,7 +100,7 @@ Findings senseOfReset(const Value& document) {
   return findings;
 }
 
-Findings senseOfRecommender(const Value& value, const Identifiers& known) {
+Findings checkRecommenderSemantics(const Value& value, const Identifiers& known) {
   const RecommenderDocument document(value);
   const auto hosts = hostsIn(document);
   Findings findings;
@@ -116,7 +116,7 @@ Findings senseOfRecommender(const Value& value, const Identifiers& known) {
   for (const Candidate candidate : document.apps()) {
     const auto pointer = childOf("/apps", index++);
     findRepeated(textOf(candidate.bundleID), pointer, "both are recommended", seenApps, findings);
-    senseOfDependencies(candidate, pointer, known, hosts, findings);
+    checkDependencies(candidate, pointer, known, hosts, findings);
   }
   return findings;
 }

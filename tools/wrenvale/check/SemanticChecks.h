@@ -17,11 +17,11 @@ using Identifiers = std::set<std::string, std::less<>>;
 Identifiers identifiersIn(const Value& recommenderDocument);
 
 /// Build ranges that are empty, and generations that are never reached.
-Findings senseOfReset(const Value& document);
+Findings checkResetSemantics(const Value& document);
 
 /// Entries that repeat another one, and dependencies that never hold; `known` are the identifiers
 /// of the maker's applications.
-Findings senseOfRecommender(const Value& document, const Identifiers& known);
+Findings checkRecommenderSemantics(const Value& document, const Identifiers& known);
 
 } // namespace wrenvale::kit
 

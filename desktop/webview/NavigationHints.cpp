@@ -1,10 +1,10 @@
-#include "desktop/webview/NavigationRemarks.h"
+#include "desktop/webview/NavigationHints.h"
 
 #include "desktop/QtText.h"
 
 extern "C" {
-extern const unsigned char wrenvale_manners[];
-extern const unsigned long wrenvale_manners_size;
+extern const unsigned char wrenvale_page_rules[];
+extern const unsigned long wrenvale_page_rules_size;
 extern const unsigned char wrenvale_detached_links[];
 extern const unsigned long wrenvale_detached_links_size;
 }
@@ -13,8 +13,8 @@ namespace wrenvale::platform {
 
 namespace {
 
-// A remark that no navigation followed, such as of a link whose click the page handled itself, is
-// not about one that comes later.
+// How long a hint holds. Without a limit, a link whose click the page handled itself would pass for
+// the reason of a later navigation.
 constexpr qint64 kLifetime = 1000; // milliseconds
 
 NavigationType typeNamed(QStringView word) {
@@ -24,27 +24,28 @@ NavigationType typeNamed(QStringView word) {
   return NavigationType::kLinkClicked;
 }
 
-// Forms that get something have their data in the query.
+// A GET form has its data in the query.
 QUrl withoutData(const QUrl& url) {
   return url.adjusted(QUrl::RemoveQuery);
 }
 
 } // namespace
 
-QString NavigationRemarks::source() const {
-  return fromUTF8(wrenvale_manners, wrenvale_manners_size).trimmed() + "(\"" + secret_ + "\");";
+QString NavigationHints::source() const {
+  return fromUTF8(wrenvale_page_rules, wrenvale_page_rules_size).trimmed() + "(\"" + secret_ +
+         "\");";
 }
 
-QString NavigationRemarks::pagesSource() {
+QString NavigationHints::pagesSource() {
   return fromUTF8(wrenvale_detached_links, wrenvale_detached_links_size);
 }
 
-std::optional<QUrl> NavigationRemarks::note(const QString& consoleMessage) {
+std::optional<QUrl> NavigationHints::note(const QString& consoleMessage) {
   if (!consoleMessage.startsWith(secret_)) return std::nullopt;
-  const auto remark = QStringView(consoleMessage).mid(secret_.size());
-  const auto space = remark.indexOf(' ');
-  const auto word = remark.left(space);
-  const QUrl url = QUrl::fromEncoded(remark.mid(space + 1).toUtf8());
+  const auto hint = QStringView(consoleMessage).mid(secret_.size());
+  const auto space = hint.indexOf(' ');
+  const auto word = hint.left(space);
+  const QUrl url = QUrl::fromEncoded(hint.mid(space + 1).toUtf8());
   if (word == QLatin1String("unasked")) return url;
   if (word == QLatin1String("form")) {
     form_ = withoutData(url);
@@ -58,27 +59,28 @@ std::optional<QUrl> NavigationRemarks::note(const QString& consoleMessage) {
   return std::nullopt;
 }
 
-bool NavigationRemarks::isAbout(const QUrl& url) const {
+bool NavigationHints::isAbout(const QUrl& url) const {
   return age_.isValid() && !age_.hasExpired(kLifetime) && url_ == url;
 }
 
-bool NavigationRemarks::isClickedLink(const QUrl& url) {
+bool NavigationHints::isClickedLink(const QUrl& url) {
   return isAbout(url) && type_ == NavigationType::kLinkClicked;
 }
 
-// A form is sent once for a remark; what goes to the same place later is something else.
-bool NavigationRemarks::takeForm(const QUrl& url) {
+// One hint stands for one sending of the form; later navigations to the same address are something
+// else.
+bool NavigationHints::takeForm(const QUrl& url) {
   if (form_.isEmpty() || formAge_.hasExpired(kLifetime) || form_ != withoutData(url)) return false;
   form_.clear();
   return true;
 }
 
-NavigationType NavigationRemarks::typeOfNewWindow(const QUrl& url, bool isUsers) {
+NavigationType NavigationHints::typeOfNewWindow(const QUrl& url, bool isUsers) {
   if (takeForm(url)) return NavigationType::kFormSubmitted;
   return isUsers || isClickedLink(url) ? NavigationType::kLinkClicked : NavigationType::kOther;
 }
 
-NavigationType NavigationRemarks::typeOf(const QUrl& url, QWebEnginePage::NavigationType engines) {
+NavigationType NavigationHints::typeOf(const QUrl& url, QWebEnginePage::NavigationType engines) {
   switch (engines) {
   case QWebEnginePage::NavigationTypeFormSubmitted:
     return NavigationType::kFormSubmitted;

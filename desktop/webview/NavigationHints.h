@@ -1,9 +1,9 @@
-// Why a page goes somewhere: what the engine says of a navigation, and what Manners.js remarks just
-// before it. The engine alone does not tell a clicked link from a script that sets the address, nor
-// a reload from a redirect.
+// Why a page goes somewhere: from what the engine says of a navigation, and from the hint that
+// PageRules.js gives just before it. The engine alone does not tell a clicked link from a script
+// that sets the address, nor a reload from a redirect.
 
-#ifndef WRENVALE_DESKTOP_WEBVIEW_NAVIGATIONREMARKS_H
-#define WRENVALE_DESKTOP_WEBVIEW_NAVIGATIONREMARKS_H
+#ifndef WRENVALE_DESKTOP_WEBVIEW_NAVIGATIONHINTS_H
+#define WRENVALE_DESKTOP_WEBVIEW_NAVIGATIONHINTS_H
 
 #include <optional>
 
@@ -17,15 +17,16 @@
 
 namespace wrenvale::platform {
 
-class NavigationRemarks {
+class NavigationHints {
 public:
-  /// What makes the remarks, to be run beside each document.
+  /// The script that gives the hints, to be run beside each document.
   QString source() const;
-  /// What tells it of some clicks, to be run in each document, before the page's scripts.
+  /// A script that tells the first one of some clicks, to be run in each document before the page's
+  /// own scripts.
   static QString pagesSource();
 
-  /// Takes note when the message is a remark. Answers the address of a clicked link about which the
-  /// engine asks nobody: one to another place in its page, or one to save.
+  /// Keeps the hint if the console message is one. Returns the address of a clicked link about
+  /// which the engine asks nobody: one to another place in its page, or one to save.
   std::optional<QUrl> note(const QString& consoleMessage);
 
   /// The type of a navigation that begins.

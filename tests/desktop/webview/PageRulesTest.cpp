@@ -7,7 +7,7 @@
 namespace wrenvale::platform {
 namespace {
 
-class MannersTest : public WebViewTest {
+class PageRulesTest : public WebViewTest {
 protected:
   QWidget& view() { return *widget()->findChild<QWidget*>("webView")->focusProxy(); }
 
@@ -49,7 +49,7 @@ const frame = url => new Promise(yes => {
   setTimeout(() => yes(f.contentDocument ? f.contentDocument.URL : 'loaded'), 200); });
 </script>)";
 
-TEST_F(MannersTest, RequestsAreRefused) {
+TEST_F(PageRulesTest, RequestsAreRefused) {
   ASSERT_TRUE(QFile::exists(":/qt-project.org/qmessagebox/images/qtlogo-64.png"));
   const struct {
     const char* request;
@@ -85,7 +85,7 @@ TEST_F(MannersTest, RequestsAreRefused) {
 }
 
 // Without a click. The engine drops keys in a page's first half second.
-TEST_F(MannersTest, AShownPageHasTheKeyboard) {
+TEST_F(PageRulesTest, AShownPageHasTheKeyboard) {
   show("<input id=field><script>field.focus();"
        "var focused = () => Recommender.log(document.hasFocus());"
        "var typed = () => Recommender.log(field.value)</script>");
@@ -107,7 +107,7 @@ TEST_F(MannersTest, AShownPageHasTheKeyboard) {
   }));
 }
 
-TEST_F(MannersTest, OnlyWhatIsTypedCanBeSelected) {
+TEST_F(PageRulesTest, OnlyWhatIsTypedCanBeSelected) {
   show("Text to select<br><input id=field value='a field' "
        "style='font:inherit'><div id=rich contenteditable>rich text</div>"
        "<script>var text = () => Recommender.log('' + getSelection());"
@@ -125,7 +125,7 @@ TEST_F(MannersTest, OnlyWhatIsTypedCanBeSelected) {
   EXPECT_TRUE(becomes("text", "rich text"));
 }
 
-TEST_F(MannersTest, NothingIsDraggedAndThereIsNoMenu) {
+TEST_F(PageRulesTest, NothingIsDraggedAndThereIsNoMenu) {
   show("<a href='/linked'>A link to be dragged</a>"
        "<script>let drags = 0; ondragstart = ondragover = ondrop = () => ++drags;"
        "var count = () => Recommender.log(drags)</script>");

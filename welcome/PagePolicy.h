@@ -1,7 +1,7 @@
 // What becomes of the page's wishes: where it wants to go, and how large its window is to be.
 
-#ifndef WRENVALE_WELCOME_PAGERULES_H
-#define WRENVALE_WELCOME_PAGERULES_H
+#ifndef WRENVALE_WELCOME_PAGEPOLICY_H
+#define WRENVALE_WELCOME_PAGEPOLICY_H
 
 #include "platform/RecommenderWindow.h"
 

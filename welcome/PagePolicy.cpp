@@ -1,4 +1,4 @@
-#include "welcome/PageRules.h"
+#include "welcome/PagePolicy.h"
 
 #include <cmath>
 

@@ -1,10 +1,10 @@
-// How a page is to behave in a window that is no browser's, and what the engine does not tell of
-// its navigations. Runs in a world of its own beside each document, where no script of the page's
-// reaches it. The host reads its remarks off the console, in front of the navigation that each is
-// about, and knows them by the secret.
+// Rules for a page in a window that is not a browser's, and hints at what the engine does not tell
+// of its navigations. Runs in an isolated world beside each document, where no script of the page
+// reaches it. It writes each hint to the console just before the navigation; the host knows a hint
+// by the secret.
 (function (secret) {
   "use strict";
-  const remark = (what, url) => console.debug(secret + what + " " + url);
+  const hint = (what, url) => console.debug(secret + what + " " + url);
 
   const linkOf = (event) => {
     for (const node of event.composedPath())
@@ -27,9 +27,9 @@
     latest = clicked;
     click = event;
     setTimeout(() => { clicked = click = null; });
-    remark("link", clicked);
+    hint("link", clicked);
     if (isToSave(event) && isForTheBrowser(clicked))
-      setTimeout((url) => { if (!event.defaultPrevented) remark("unasked", url); }, 0, clicked);
+      setTimeout((url) => { if (!event.defaultPrevented) hint("unasked", url); }, 0, clicked);
   };
   window.addEventListener("click", onClick, true);
   window.addEventListener("auxclick", onClick, true);
@@ -51,8 +51,8 @@
     // A field may go by the name of any property of the form.
     const read = (name, of) => of && Element.prototype.getAttribute.call(of, name);
     const action = read("formaction", submitterOf(event.target)) ?? read("action", event.target);
-    remark("form", new URL(action && action.trim() || location.href, document.baseURI).href);
-    setTimeout(() => remark("form", "")); // sent by then, or only looked at
+    hint("form", new URL(action && action.trim() || location.href, document.baseURI).href);
+    setTimeout(() => hint("form", "")); // sent by then, or only looked at
   };
   const watchForms = (root) => {
     root.addEventListener("submit", onSubmit, true);
@@ -78,14 +78,14 @@
       const url = event.destination.url;
       if (isUnasked(event)) {
         event.preventDefault();
-        remark("unasked", url);
+        hint("unasked", url);
       } else if (event.navigationType === "reload" || event.navigationType === "traverse") {
-        remark(event.navigationType, url);
+        hint(event.navigationType, url);
       } else if (event.userInitiated) { // a click in a closed shadow tree, if it was not seen above
         latest = url;
-        remark("link", url);
+        hint("link", url);
       } else if (url === latest && !isOver()) {
-        remark("script", url);
+        hint("script", url);
       }
     });
   }
