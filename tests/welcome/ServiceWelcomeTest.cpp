@@ -119,6 +119,7 @@ TEST_F(ServiceWelcome, TheEndSettlesTheDebtAndMakesRoom) {
     EXPECT_FALSE(service->triggerWelcomeWindow());
   }
   EXPECT_EQ(windows(), 2U);
+  fake.queues.runAll(); // lists for windows that are gone
 }
 
 TEST_F(ServiceWelcome, WithoutWindowsThereIsTheAnswerOnly) {
