@@ -1,3 +1,4 @@
+#include <functional>
 #include <random>
 
 #include <simdjson.h>
@@ -18,12 +19,13 @@ std::size_t framework(std::string text) {
                              .storeHost = {},
                              .publicKey = {},
                              .vendorSiteName = {}});
+  std::mt19937 random;
   const recommend::Context context{.iconBase = endpoints.icon(""),
                                    .host = {.bundleID = kHost, .bundleVersion = kBuild},
                                    .isInstalled = isInstalled,
                                    .purchaseRecord = [] { return false; },
                                    .purchases = [] { return Value(); },
-                                   .random = std::mt19937()};
+                                   .random = std::ref(random)};
   auto parsed = platform::JSONReader().JSONObjectWithData(std::move(text));
   if (!parsed) return 0;
   const recommend::RecommenderDocument document(std::move(*parsed));

@@ -14,7 +14,7 @@ protected:
       for (const auto& [host, name] : {std::pair("127.0.0.1", ""), {"localhost", "//localhost"}})
         for (std::size_t at = 0; (at = call.find(site_.url("", host))) != call.npos;)
           call.replace(at, site_.url("", host).size(), name);
-      if (call.starts_with("go ") || call.starts_with("open ")) result.push_back(call);
+      if (call.starts_with("go ")) result.push_back(call);
     }
     return result;
   }
