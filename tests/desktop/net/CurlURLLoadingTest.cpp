@@ -72,19 +72,20 @@ TEST(CurlURLLoading, TakesWholeBodiesOfAnyStatus) {
 }
 
 TEST(CurlURLLoading, StopsAnEndlessAnswerAtItsBound) {
-  const std::pair<std::string, std::string> rows[] = {
-      {"\r\n", std::string(1 << 16, 'x')},
-      {"", "X: y\r\n"},
-      {"", "HTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 200 OK\r\n"}};
-  for (const auto& [begin, more] : rows) {
+  const struct {
+    std::string begin, more;
+  } rows[] = {{"\r\n", std::string(1 << 16, 'x')},
+              {"", "X: y\r\n"},
+              {"", "HTTP/1.1 100 Continue\r\n\r\nHTTP/1.1 200 OK\r\n"}};
+  for (const auto& row : rows) {
     std::atomic<std::size_t> sent = 0;
     {
       const LoopbackServer server([&](Client& client) {
-        client.send("HTTP/1.1 200 OK\r\n" + begin);
-        while (client.send(more))
-          sent += more.size();
+        client.send("HTTP/1.1 200 OK\r\n" + row.begin);
+        while (client.send(row.more))
+          sent += row.more.size();
       });
-      EXPECT_EQ(loaded(server.url()), std::nullopt) << more;
+      EXPECT_EQ(loaded(server.url()), std::nullopt) << row.more;
     }
     EXPECT_LT(sent, 3 * kLongestBody) << "what the sockets hold comes on top of the bound";
   }
