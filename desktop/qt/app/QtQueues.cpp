@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QObject>
+#include <QThreadPool>
 
 #include "desktop/BlockedSignals.h"
 
@@ -71,17 +72,21 @@ void MainQueue::runOne() {
   }
 }
 
-BackgroundQueue::BackgroundQueue(int width) {
-  pool_.setObjectName("wrenvale");
-  pool_.setMaxThreadCount(width);
-  pool_.setExpiryTimeout(0);
+// Called with the lock held.
+QThreadPool& BackgroundQueue::pool() {
+  if (pool_) return *pool_;
+  pool_ = new QThreadPool;
+  pool_->setObjectName("wrenvale");
+  pool_->setMaxThreadCount(width_);
+  pool_->setExpiryTimeout(0);
+  return *pool_;
 }
 
 void BackgroundQueue::async(Task task) {
   const std::lock_guard lock(mutex_);
   if (ended_ || waiting_ == kMostWaiting) return;
   const BlockedSignals blocked;
-  pool_.start([this, task = std::move(task)] { run(task); });
+  pool().start([this, task = std::move(task)] { run(task); });
   ++waiting_;
 }
 
@@ -98,12 +103,14 @@ void BackgroundQueue::run(const Task& task) {
 }
 
 void BackgroundQueue::end() {
-  ended_ = true;
-  pool_.clear();
+  std::unique_lock lock(mutex_);
+  ended_ = true; // the pool stays as it is from now on
+  lock.unlock(); // whatever the dropped tasks own
+  if (pool_) pool_->clear();
 }
 
 void BackgroundQueue::wait(QDeadlineTimer deadline) {
-  pool_.waitForDone(static_cast<int>(deadline.remainingTime()));
+  if (pool_) pool_->waitForDone(static_cast<int>(deadline.remainingTime()));
 }
 
 namespace {

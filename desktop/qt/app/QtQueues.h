@@ -9,11 +9,11 @@
 #include <mutex>
 
 #include <QDeadlineTimer>
-#include <QThreadPool>
 
 #include "platform/Queue.h"
 
 class QObject;
+class QThreadPool;
 
 namespace wrenvale::platform {
 
@@ -45,7 +45,8 @@ private:
 class BackgroundQueue final : public Queue {
 public:
   /// `width`: how many tasks may run at the same time.
-  explicit BackgroundQueue(int width);
+  explicit BackgroundQueue(int width)
+      : width_(width) {}
 
   void async(Task task) override;
 
@@ -55,10 +56,12 @@ public:
   void wait(QDeadlineTimer deadline);
 
 private:
+  QThreadPool& pool();
   void run(const Task& task);
 
-  QThreadPool pool_;
+  const int width_;
   std::mutex mutex_;
+  QThreadPool* pool_ = nullptr; // from the first task on; a queue may be older than the application
   std::size_t waiting_ = 0;
   std::atomic<bool> ended_ = false;
 };
