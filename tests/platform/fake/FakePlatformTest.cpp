@@ -42,9 +42,23 @@ TEST(FakeQueues, DropWhatIsTooMuchOrTooLate) {
   EXPECT_EQ(queues.main.size(), 0U);
 }
 
-TEST(FakeUserDefaults, OnlySynchronizedValuesSurvive) {
+TEST(FakeApplication, OpensNoMoreThanAPersonDoes) {
+  FakePlatform fake;
+  std::string opened;
+  for (const int milliseconds : {0, 0, 500, 500, 0, 0, 999, 1}) {
+    fake.system.advance(std::chrono::milliseconds(milliseconds));
+    opened += fake.application.openURL("http://vendor.example") ? 'o' : '.';
+  }
+  EXPECT_EQ(opened, "ooooo..o");
+}
+
+TEST(FakeUserDefaults, TellOfChangesAndKeepWhatIsSynchronized) {
   FakeUserDefaults defaults;
-  defaults.setObject(1, "k");
+  int calls = 0;
+  defaults.addObserver("k", [&calls] { ++calls; });
+  for (const int value : {1, 1})
+    defaults.setObject(value, "k");
+  EXPECT_EQ(calls, 1) << "an equal value is no change";
   EXPECT_TRUE(defaults.durable().empty());
   defaults.diskFull = true;
   EXPECT_FALSE(defaults.synchronize());
