@@ -2,10 +2,27 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <optional>
+#include <map>
+
+#include <QTimer>
 
 namespace wrenvale::platform {
 namespace {
+
+/// Runs `body` in the application's event loop; false when that took too long.
+bool runInApplication(const std::function<void()>& body) {
+  QObject context; // takes along what is still posted when the loop ends
+  bool ended = false;
+  const auto exit = [] { QCoreApplication::exit(); };
+  QTimer::singleShot(0, &context, [&] {
+    body();
+    ended = true;
+    QTimer::singleShot(0, &context, exit);
+  });
+  QTimer::singleShot(20000, &context, exit);
+  QApplication::exec();
+  return ended;
+}
 
 class QtRateWindowClosingTest : public RateWindowFixture {
 protected:
@@ -13,9 +30,12 @@ protected:
     return std::count(delegate_.calls.begin(), delegate_.calls.end(), "should close");
   }
 
-  /// Opens over a parent and runs modally; `during` is called from the modal loop.
+  /// Opens a new window over a parent and runs it modally; `during` is called from the modal loop.
   bool runModal(const std::function<void()>& during) {
     bool ran = false;
+    destroy();
+    window_ = windows_.makeRateWindow(delegate_, "");
+    delegate_.calls.clear();
     const bool ended = runInApplication([&] {
       parent_ = std::make_unique<QWidget>();
       openOver(*parent_);
@@ -34,34 +54,27 @@ protected:
 };
 
 TEST_F(QtRateWindowClosingTest, EveryWayAsksOnceAndEndsTheModalLoop) {
-  const struct {
-    const char* name;
-    std::function<void(QWidget& window, std::unique_ptr<QWidget>& parent)> close;
-  } ways[] = {
-      {"two close events", [](QWidget& window, auto&) { window.close(), window.close(); }},
-      {"escape", [](QWidget& window, auto&) { QTest::keyClick(&window, Qt::Key_Escape); }},
-      {"close button",
-       [](QWidget& window, auto&) { window.findChild<QPushButton*>("closeButton")->click(); }},
-      {"hidden by the host", [](QWidget& window, auto&) { window.hide(); }},
-      {"destroyed by the host", [](QWidget& window, auto&) { delete &window; }},
-      {"parent closed", [](QWidget&, auto& parent) { parent->close(); }},
-      {"parent hidden", [](QWidget&, auto& parent) { parent->hide(); }},
-      {"parent deleted", [](QWidget&, auto& parent) { parent.reset(); }},
-      {"host quits", [](QWidget&, auto&) { QCoreApplication::quit(); }},
-      {"host leaves its loop", [](QWidget&, auto&) { QCoreApplication::exit(3); }},
+  const std::map<const char*, std::function<void(QWidget & window)>> ways{
+      {"two close events", [](QWidget& window) { window.close(), window.close(); }},
+      {"escape", [](QWidget& window) { QTest::keyClick(&window, Qt::Key_Escape); }},
+      {"close button", [](QWidget&) { click("closeButton"); }},
+      {"hidden by the host", [](QWidget& window) { window.hide(); }},
+      {"destroyed by the host", [](QWidget& window) { delete &window; }},
+      {"parent closed", [this](QWidget&) { parent_->close(); }},
+      {"parent hidden", [this](QWidget&) { parent_->hide(); }},
+      {"parent deleted", [this](QWidget&) { parent_.reset(); }},
+      {"host quits", [](QWidget&) { QCoreApplication::quit(); }},
+      {"host leaves its loop", [](QWidget&) { QCoreApplication::exit(3); }},
   };
-  for (const auto& way : ways) {
+  for (const auto& [name, close] : ways) {
     for (const bool pushing : {false, true}) {
-      SCOPED_TRACE(std::string(way.name) + (pushing ? " in the middle of a transition" : ""));
-      delegate_.calls.clear();
-      window_ = windows_.makeRateWindow(delegate_, "");
-      EXPECT_TRUE(runModal([&] {
+      SCOPED_TRACE(std::string(name) + (pushing ? " in the middle of a transition" : ""));
+      EXPECT_TRUE(runModal([&, &close = close] {
         if (pushing) window_->setView(RateView::kContact, true);
-        way.close(*widget(), parent_);
+        close(*widget());
       }));
       EXPECT_EQ(asked(), 1);
-      window_.reset();
-      QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+      destroy();
       EXPECT_EQ(widget(), nullptr);
     }
   }
@@ -95,17 +108,10 @@ TEST_F(QtRateWindowClosingTest, TheHostMayExitInTheSameTurn) {
 }
 
 TEST_F(QtRateWindowClosingTest, CommandsOfTheDelegateAskNothing) {
-  const std::map<const char*, std::function<void()>> commands{
-      {"close", [this] { window_->close(); }},
-      {"destroy", [this] { window_.reset(); }},
-  };
-  for (const auto& [name, command] : commands) {
-    SCOPED_TRACE(name);
-    window_ = windows_.makeRateWindow(delegate_, "");
-    delegate_.calls.clear();
-    delegate_.onButton = [&command = command](RateButton) { command(); };
+  for (const bool destroys : {false, true}) {
+    delegate_.onButton = [&](RateButton) { destroys ? window_.reset() : window_->close(); };
     EXPECT_TRUE(runModal([] { click("likeButton"); }));
-    EXPECT_THAT(delegate_.calls, testing::ElementsAre("button 0"));
+    EXPECT_THAT(delegate_.calls, testing::ElementsAre("button 0")) << destroys;
   }
 }
 

@@ -11,50 +11,12 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
-#include <QEnterEvent>
-#include <QProxyStyle>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
 
 #include "desktop/qt/app/QtWindows.h"
 
 namespace wrenvale::platform {
-
-/// Runs `body` in the application's event loop; false when that took too long.
-inline bool runInApplication(const std::function<void()>& body) {
-  QObject context; // takes along what is still posted when the loop ends
-  bool ended = false;
-  const auto exit = [] { QCoreApplication::exit(); };
-  QTimer::singleShot(0, &context, [&] {
-    body();
-    ended = true;
-    QTimer::singleShot(0, &context, exit);
-  });
-  QTimer::singleShot(20000, &context, exit);
-  QApplication::exec();
-  return ended;
-}
-
-/// A desktop that wants no animations, as long as it lives.
-class StillDesktop {
-public:
-  StillDesktop() { QApplication::setStyle(new Still("fusion")); }
-  ~StillDesktop() { QApplication::setStyle("fusion"); }
-  StillDesktop(const StillDesktop&) = delete;
-  StillDesktop& operator=(const StillDesktop&) = delete;
-
-private:
-  class Still final : public QProxyStyle {
-  public:
-    using QProxyStyle::QProxyStyle;
-    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
-                  QStyleHintReturn* data) const override {
-      if (hint == SH_Widget_Animation_Duration) return 0;
-      return QProxyStyle::styleHint(hint, option, widget, data);
-    }
-  };
-};
 
 /// Writes down what the window reports; does what a test asks it to.
 class RecordingDelegate : public RateWindowDelegate {
@@ -112,11 +74,6 @@ protected:
     return *found;
   }
   static void click(const char* name) { QTest::mouseClick(&outlet(name), Qt::LeftButton); }
-  static void hover(const char* name, bool inside) {
-    QEnterEvent enter({1, 1}, {1, 1}, {1, 1});
-    QEvent leave(QEvent::Leave);
-    QCoreApplication::sendEvent(&outlet(name), inside ? &enter : &leave);
-  }
   static bool waitForPush() {
     return QTest::qWaitFor([] {
       int visible = 0;

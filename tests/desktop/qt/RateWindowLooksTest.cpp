@@ -10,7 +10,6 @@ class QtRateWindowLooksTest : public RateWindowFixture {
 protected:
   QImage picture() { return widget()->grab().toImage(); }
   QImage face() { return widget()->grab(outlet("imageView").geometry()).toImage(); }
-  static bool isButton(const QWidget& widget) { return qobject_cast<const QPushButton*>(&widget); }
 };
 
 TEST_F(QtRateWindowLooksTest, EachMoodHasAFaceAndAMissingOneShowsNothing) {
@@ -112,8 +111,8 @@ class LongTranslator final : public QTranslator {
 public:
   bool isEmpty() const override { return false; }
   QString translate(const char* context, const char* source, const char*, int) const override {
-    return QLatin1String(context) == "Wrenvale" ? QString(source + QLatin1Char(' ')).repeated(3)
-                                                : "";
+    const bool ours = QLatin1String(context) == "Wrenvale";
+    return ours ? QString(source + QLatin1Char(' ')).repeated(3) : "";
   }
 };
 
@@ -132,7 +131,7 @@ TEST_F(QtRateWindowLooksTest, GrowsWithItsTexts) {
     for (const auto* text : widget()->findChildren<QWidget*>()) {
       if (!text->isVisible()) continue;
       const std::string name = text->objectName().toStdString();
-      if (isButton(*text)) {
+      if (qobject_cast<const QPushButton*>(text)) {
         EXPECT_GE(text->width(), text->sizeHint().width()) << name;
       }
       if (qobject_cast<const QLabel*>(text)) {

@@ -1,6 +1,8 @@
 #include "RateWindowFixture.h"
 
+#include <QEnterEvent>
 #include <QLabel>
+#include <QProxyStyle>
 #include <QScreen>
 
 namespace wrenvale::platform {
@@ -15,11 +17,24 @@ protected:
       if (sender == RateButton::kLike) window_->setView(RateView::kAppstore, true);
     };
   }
+  static void hover(const char* name, bool inside) {
+    QEnterEvent enter({1, 1}, {1, 1}, {1, 1});
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(&outlet(name), inside ? &enter : &leave);
+  }
+  static void activate(QWidget& window) {
+    window.show();
+    window.activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+  }
 };
 
 TEST_F(QtRateWindowTest, OnePressForOneTransition) {
   pushOnLike();
   open();
+  QTest::mouseDClick(&outlet("dislikeButton"), Qt::LeftButton);
+  QTest::mouseRelease(&outlet("dislikeButton"), Qt::LeftButton);
+  EXPECT_THAT(delegate_.calls, ElementsAre()) << "a second click presses nothing";
   click("likeButton");
   ASSERT_TRUE(outlet("rateView").isVisible() && outlet("appstoreView").isVisible());
   click("dislikeButton");
@@ -43,39 +58,45 @@ TEST_F(QtRateWindowTest, ViewsComeFromWhereTextEnds) {
   }
 }
 
-TEST_F(QtRateWindowTest, HoveringIsToldOfThePresentView) {
-  const StillDesktop still;
+// A desktop that wants no animations.
+class StillStyle final : public QProxyStyle {
+public:
+  StillStyle()
+      : QProxyStyle("fusion") {}
+  int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                QStyleHintReturn* data) const override {
+    return hint == SH_Widget_Animation_Duration
+               ? 0
+               : QProxyStyle::styleHint(hint, option, widget, data);
+  }
+};
+
+TEST_F(QtRateWindowTest, HoveringIsToldOfThePresentViewOfTheActiveWindow) {
+  QApplication::setStyle(new StillStyle);
+  QWidget other;
   pushOnLike();
   open();
+  hover("likeButton", true);
+  activate(other);
+  EXPECT_THAT(delegate_.calls, ElementsAre("entered 0", "exited 0"));
+  hover("likeButton", false);
   hover("dislikeButton", true);
+  EXPECT_EQ(delegate_.calls.size(), 2U);
+  activate(*widget());
   hover("dislikeButton", false);
   hover("likeButton", true);
   hover("appstoreButton", true); // of another view
   click("likeButton");
   hover("likeButton", false); // went away under the pointer
-  EXPECT_THAT(delegate_.calls, ElementsAre("entered 1", "exited 1", "entered 0", "button 0"));
-}
-
-TEST_F(QtRateWindowTest, OnlyTheActiveWindowIsHovered) {
-  open();
-  hover("likeButton", true);
-  QWidget other;
-  other.show();
-  other.activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(&other));
-  EXPECT_THAT(delegate_.calls, ElementsAre("entered 0", "exited 0"));
-  hover("likeButton", false);
-  hover("dislikeButton", true);
-  EXPECT_EQ(delegate_.calls.size(), 2U);
-  widget()->activateWindow();
-  ASSERT_TRUE(QTest::qWaitForWindowActive(widget()));
-  EXPECT_THAT(delegate_.calls, ElementsAre("entered 0", "exited 0", "entered 1"));
+  EXPECT_THAT(delegate_.calls, ElementsAre("entered 0", "exited 0", "entered 1", "exited 1",
+                                           "entered 0", "button 0"));
+  QApplication::setStyle("fusion");
 }
 
 // On a display the old view is hidden, and so left by the pointer, before the new one is there.
 TEST_F(QtRateWindowTest, AViewThatGoesFromUnderThePointerIsNotLeft) {
   if (QGuiApplication::platformName() == "offscreen") GTEST_SKIP() << "has no pointer";
-  delegate_.onButton = [&](RateButton) { window_->setView(RateView::kAppstore, true); };
+  pushOnLike();
   open();
   auto& like = outlet("likeButton");
   const QPoint place = like.mapTo(widget(), like.rect().center());
@@ -88,13 +109,15 @@ TEST_F(QtRateWindowTest, AViewThatGoesFromUnderThePointerIsNotLeft) {
 }
 
 TEST_F(QtRateWindowTest, WorksByKeyboard) {
+  QWidget parent;
   pushOnLike();
-  open();
+  openOver(parent);
   QTest::keyClick(widget()->focusWidget(), Qt::Key_Return);
   EXPECT_THAT(delegate_.calls, ElementsAre()) << "a key meant for another window";
-  for (int tab = 0; tab < 2; ++tab)
+  for (const char* button : {"dislikeButton", "likeButton"}) {
     QTest::keyClick(widget()->focusWidget(), Qt::Key_Tab);
-  ASSERT_EQ(widget()->focusWidget(), &outlet("likeButton"));
+    ASSERT_EQ(widget()->focusWidget(), &outlet(button));
+  }
   QTest::keyClick(widget()->focusWidget(), Qt::Key_Return);
   ASSERT_TRUE(waitForPush());
   ASSERT_EQ(widget()->focusWidget(), &outlet("appstoreButton"));
@@ -104,20 +127,6 @@ TEST_F(QtRateWindowTest, WorksByKeyboard) {
   QTest::keyClick(widget()->focusWidget(), Qt::Key_Space);
   QTest::keyClick(widget()->focusWidget(), Qt::Key_Escape);
   EXPECT_THAT(delegate_.calls, ElementsAre("button 0", "button 2", "should close"));
-}
-
-TEST_F(QtRateWindowTest, AParentsFirstTabComesToTheFirstButton) {
-  QWidget parent;
-  openOver(parent);
-  QTest::keyClick(widget()->focusWidget(), Qt::Key_Tab);
-  EXPECT_EQ(widget()->focusWidget(), &outlet("dislikeButton"));
-}
-
-TEST_F(QtRateWindowTest, TheSecondClickOfADoubleClickPressesNothing) {
-  open();
-  QTest::mouseDClick(&outlet("dislikeButton"), Qt::LeftButton);
-  QTest::mouseRelease(&outlet("dislikeButton"), Qt::LeftButton);
-  EXPECT_THAT(delegate_.calls, ElementsAre());
 }
 
 TEST_F(QtRateWindowTest, TextsHaveTheNameAsItIs) {
@@ -133,11 +142,11 @@ TEST_F(QtRateWindowTest, TextsHaveTheNameAsItIs) {
 
 TEST_F(QtRateWindowTest, StaysInTheMiddleOfItsParent) {
   QWidget parent;
-  const auto middle = [&parent] {
-    return parent.frameGeometry().center() - widget()->rect().center();
-  };
   const auto centred = [&] {
-    return QTest::qWaitFor([&] { return (widget()->pos() - middle()).manhattanLength() <= 2; });
+    return QTest::qWaitFor([&] {
+      const QPoint middle = parent.frameGeometry().center() - widget()->rect().center();
+      return (widget()->pos() - middle).manhattanLength() <= 2;
+    });
   };
   openOver(parent);
   EXPECT_TRUE(centred());
@@ -155,35 +164,30 @@ TEST_F(QtRateWindowTest, StaysInTheMiddleOfItsParent) {
   }
 }
 
-TEST(DimmingOverlayTest, CoversItsParentAndGoesWithIt) {
-  QWidget parent;
-  parent.setStyleSheet("background: white");
-  parent.resize(300, 200);
-  parent.show();
-  auto overlay = QtWindows("").makeOverlay(&parent);
-  bool arrived = false;
-  overlay->animateAlpha(0.3, [&] { arrived = true; });
-  EXPECT_FALSE(arrived);
-  ASSERT_TRUE(QTest::qWaitFor([&] { return arrived; }));
-  parent.resize(500, 400);
-  EXPECT_NEAR(parent.grab().toImage().pixelColor(480, 380).red(), 255 * 0.7, 2);
-  overlay.reset();
-  EXPECT_EQ(parent.grab().toImage().pixelColor(480, 380), QColor(Qt::white));
-}
-
-TEST(DimmingOverlayTest, CompletionsNeedNoParent) {
+TEST(DimmingOverlayTest, CoversItsParentAndCompletesWithoutOne) {
+  auto parent = std::make_unique<QWidget>();
   int completions = 0;
   const auto count = [&completions] { ++completions; };
-  auto parent = std::make_unique<QWidget>();
+  const auto corner = [&] { return parent->grab().toImage().pixelColor(480, 380).red(); };
+  parent->setStyleSheet("background: white");
+  parent->show();
+  auto overlay = QtWindows("").makeOverlay(parent.get());
+  overlay->animateAlpha(0.3, count);
+  EXPECT_EQ(completions, 0);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return completions == 1; }));
+  parent->resize(500, 400);
+  EXPECT_NEAR(corner(), 255 * 0.7, 2);
+  overlay.reset();
+  EXPECT_EQ(corner(), 255);
+
   const auto orphan = QtWindows("").makeOverlay(parent.get());
   auto dropped = QtWindows("").makeOverlay(parent.get());
   dropped->animateAlpha(0.3, count);
   dropped.reset();
   parent.reset();
   orphan->animateAlpha(0.3, count);
-  EXPECT_EQ(completions, 1);
   QtWindows("").makeOverlay(nullptr)->animateAlpha(0.3, count);
-  EXPECT_EQ(completions, 2);
+  EXPECT_EQ(completions, 3);
 }
 
 } // namespace
