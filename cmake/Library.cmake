@@ -2,8 +2,6 @@
 
 configure_file(core/BuildConfiguration.cpp.in "${PROJECT_BINARY_DIR}/BuildConfiguration.cpp" @ONLY)
 wrenvale_embed("${WRENVALE_PUBLIC_KEY_FILE}" wrenvale_public_key public_key_source)
-wrenvale_embed("${PROJECT_SOURCE_DIR}/resources/DroidSans-Regular.ttf" wrenvale_droid_sans
-  font_source)
 
 # Has the target offer the symbols that the version script names.
 function(wrenvale_exports target script)
@@ -11,13 +9,12 @@ function(wrenvale_exports target script)
   set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS "${script}")
 endfunction()
 
-# The library under another target's name and with other embedded files: tests and benchmarks put
-# such a variant in the library's place.
-function(wrenvale_library target font_source public_key_source)
+# The library under another target's name and with another public key: a test puts such a variant in
+# the library's place.
+function(wrenvale_library target public_key_source)
   add_library(${target} SHARED
     "${PROJECT_SOURCE_DIR}/desktop/SharedInstance.cpp"
     "${PROJECT_BINARY_DIR}/BuildConfiguration.cpp"
-    "${font_source}"
     "${public_key_source}")
   target_link_libraries(${target} PRIVATE wrenvale_flags wrenvale_logic wrenvale_linux wrenvale_qt)
   target_link_options(${target} PRIVATE -Wl,--as-needed -Wl,-Bsymbolic-functions)
@@ -28,7 +25,7 @@ function(wrenvale_library target font_source public_key_source)
     SOVERSION ${PROJECT_VERSION_MAJOR})
 endfunction()
 
-wrenvale_library(Wrenvale "${font_source}" "${public_key_source}")
+wrenvale_library(Wrenvale "${public_key_source}")
 add_library(Wrenvale::Wrenvale ALIAS Wrenvale)
 target_compile_features(Wrenvale PUBLIC cxx_std_20)
 target_include_directories(Wrenvale INTERFACE

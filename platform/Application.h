@@ -27,8 +27,9 @@ public:
   virtual std::optional<std::string> localizedString(std::string_view key,
                                                      std::string_view table) const = 0;
 
-  /// Makes a font of the framework's own resources known to this process by its family name. False
-  /// when there is no such resource, or no windows to show text in.
+  /// Makes a font of the framework's own resources known to this process by its family name, at the
+  /// latest before one of the framework's windows draws with it. False when there is no such
+  /// resource, or no windows to show text in.
   virtual bool registerFont(std::string_view resource, std::string_view extension) = 0;
 
   /// Ends the process with this exit status, within about a second whatever its other threads do.

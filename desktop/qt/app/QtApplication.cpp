@@ -5,16 +5,10 @@
 
 #include <QApplication>
 #include <QDesktopServices>
-#include <QFontDatabase>
 #include <QUrl>
 #include <QWidget>
 
 #include "desktop/qt/app/Toolkit.h"
-
-extern "C" {
-extern const unsigned char wrenvale_droid_sans[];
-extern const unsigned long wrenvale_droid_sans_size;
-}
 
 namespace wrenvale::platform {
 
@@ -82,11 +76,7 @@ std::optional<std::string> QtApplication::localizedString(std::string_view key,
 }
 
 bool QtApplication::registerFont(std::string_view resource, std::string_view extension) {
-  if (resource != "DroidSans-Regular" || extension != "ttf") return false;
-  if (!hasGUI()) return false;
-  const auto data = QByteArray::fromRawData(reinterpret_cast<const char*>(wrenvale_droid_sans),
-                                            static_cast<qsizetype>(wrenvale_droid_sans_size));
-  return QFontDatabase::addApplicationFontFromData(data) >= 0;
+  return resource == "DroidSans-Regular" && extension == "ttf" && hasGUI();
 }
 
 // Runs no destructor of the host, which expects them on its main thread, and flushes no stream,

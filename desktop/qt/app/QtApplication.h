@@ -43,6 +43,7 @@ public:
   /// text.
   std::optional<std::string> localizedString(std::string_view key,
                                              std::string_view table) const override;
+  /// Says only that there is such a font: registerFontWithQt() waits until a window draws with it.
   bool registerFont(std::string_view resource, std::string_view extension) override;
   [[noreturn]] void terminate(int status) override;
 

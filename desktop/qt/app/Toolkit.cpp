@@ -4,9 +4,15 @@
 #include <vector>
 
 #include <QApplication>
+#include <QFontDatabase>
 #include <QPointer>
 #include <QStyle>
 #include <QWidget>
+
+extern "C" {
+extern const unsigned char wrenvale_droid_sans[];
+extern const unsigned long wrenvale_droid_sans_size;
+}
 
 namespace wrenvale::platform {
 
@@ -29,6 +35,13 @@ void keepWaiting() {
 
 bool hasWindows() {
   return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
+}
+
+void registerFontWithQt() {
+  if (QFontDatabase::hasFamily("Droid Sans")) return;
+  QFontDatabase::addApplicationFontFromData(
+      QByteArray::fromRawData(reinterpret_cast<const char*>(wrenvale_droid_sans),
+                              static_cast<qsizetype>(wrenvale_droid_sans_size)));
 }
 
 int animationDuration() {

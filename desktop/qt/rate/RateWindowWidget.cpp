@@ -13,6 +13,7 @@
 
 #include <ui_RateWindow.h>
 
+#include "desktop/qt/app/Toolkit.h"
 #include "desktop/qt/app/WindowFrame.h"
 #include "desktop/qt/rate/PushTransition.h"
 
@@ -44,7 +45,7 @@ RateWindowWidget::RateWindowWidget(Events events, const QString& appName)
     , events_(std::move(events))
     , appName_(appName)
     , ui_(std::make_unique<Ui::RateWindow>())
-    , push_((ui_->setupUi(this), new PushTransition(*ui_->bottomContainerView))) {
+    , push_((registerFontWithQt(), ui_->setupUi(this), new PushTransition(*ui_->bottomContainerView))) {
   view_ = ui_->bottomContainerView->currentWidget();
   ownRules_ = styleSheet();
   setObjectName("Rate Window");

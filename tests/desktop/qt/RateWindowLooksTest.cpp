@@ -1,5 +1,6 @@
 #include "RateWindowFixture.h"
 
+#include <QFontInfo>
 #include <QLabel>
 #include <QTranslator>
 
@@ -49,8 +50,9 @@ TEST_F(QtRateWindowLooksTest, NoPaletteOrStyleSheetOfTheHostsChangesAnything) {
   }
 }
 
-TEST_F(QtRateWindowLooksTest, TextsGrowWithTheHostsFont) {
+TEST_F(QtRateWindowLooksTest, TextsAreInItsFontAndGrowWithTheHosts) {
   open();
+  EXPECT_EQ(QFontInfo(outlet("likeButton").font()).family(), "Droid Sans");
   const QFont usual = QApplication::font();
   const QSize size = widget()->size();
   QFont larger = usual;
