@@ -1,35 +1,29 @@
 // Time and peak memory from a downloaded document to the final list.
 //
-// Prints, for 10, 1,000 and 100,000 candidates, the median time and the peak memory of the
-// framework, of the same work through nlohmann-json and of the bare parse, each in a process of its
-// own. The peak is the whole process with the document in it, and what the work added to it. Fails
-// when the two lists differ.
+// Says, for each number of candidates, the median time and the peak memory of the framework beside
+// the same work through nlohmann-json, and beside the bare parse, each in a process of its own. The
+// peak is the whole process with the document in it. Fails when the two lists differ.
 //
-// Usage: recommend_benchmark [candidates...]
+// usage: recommend_benchmark [CANDIDATES...]
+//        recommend_benchmark --document CANDIDATES   (prints the document)
 
 #include <algorithm>
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <string_view>
 #include <vector>
 
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include "benchmarks/Figures.h"
 #include "benchmarks/recommend/Documents.h"
 #include "benchmarks/recommend/Pipelines.h"
 
 namespace {
 
 using namespace wrenvale::benchmark;
-using Seconds = std::chrono::duration<double>;
-
-constexpr struct {
-  const char* name;
-  Pipeline run;
-} kPipelines[] = {{"wrenvale", framework}, {"nlohmann", comparison}, {"parse only", bareParse}};
-constexpr std::size_t kCount = std::size(kPipelines);
 
 // A copy that came together piece by piece, as a download does, and so has some room at its end.
 std::string downloaded(const std::string& text) {
@@ -40,16 +34,10 @@ std::string downloaded(const std::string& text) {
   return copy;
 }
 
-double secondsOf(Pipeline run, const std::string& text) {
+double runTakes(Pipeline run, const std::string& text) {
   auto copy = downloaded(text);
-  const auto start = std::chrono::steady_clock::now();
-  run(std::move(copy));
-  return Seconds(std::chrono::steady_clock::now() - start).count();
-}
-
-double median(std::vector<double> values) {
-  std::nth_element(values.begin(), values.begin() + values.size() / 2, values.end());
-  return values[values.size() / 2];
+  const auto once = [&] { run(std::move(copy)); };
+  return microsecondsOf(once);
 }
 
 double peakOfProcess() {
@@ -59,9 +47,8 @@ double peakOfProcess() {
 }
 
 struct Measure {
-  double seconds = 0;       ///< the median of many runs
+  double microseconds = 0;  ///< the median of many runs
   double peak = 0;          ///< of one run, in bytes: the whole process, the document included
-  double added = 0;         ///< by which that is above the process before the run, in bytes
   std::size_t document = 0; ///< in bytes
   std::size_t answer = 0;
 };
@@ -71,15 +58,13 @@ Measure measure(std::size_t candidates, Pipeline run) {
   Measure result;
   auto text = recommenderDocument(candidates);
   result.document = text.size();
-  const double before = peakOfProcess();
   result.answer = run(std::move(text));
   result.peak = peakOfProcess();
-  result.added = result.peak - before;
   text = recommenderDocument(candidates);
-  std::vector<double> seconds(std::clamp<std::size_t>(1000000 / candidates, 9, 3000));
-  for (auto& value : seconds)
-    value = secondsOf(run, text);
-  result.seconds = median(std::move(seconds));
+  std::vector<double> times(std::clamp<std::size_t>(1000000 / candidates, 9, 3000));
+  for (auto& time : times)
+    time = runTakes(run, text);
+  result.microseconds = median(std::move(times));
   return result;
 }
 
@@ -101,26 +86,23 @@ Measure measureApart(std::size_t candidates, Pipeline run) {
 }
 
 bool compare(std::size_t candidates) {
-  Measure measured[kCount];
-  for (std::size_t i = 0; i < kCount; ++i) {
-    measured[i] = measureApart(candidates, kPipelines[i].run);
-    const auto document = static_cast<double>(measured[i].document);
-    std::printf("%9zu candidates, %8.0f KB  %-10s %12.1f us %8.1f MB peak (%.2f documents, %.2f "
-                "beside the text)\n",
-                candidates, document / 1e3, kPipelines[i].name, measured[i].seconds * 1e6,
-                measured[i].peak / 1e6, measured[i].peak / document, measured[i].added / document);
-  }
-  std::printf("%9zu candidates: nlohmann takes %.1f times as long\n", candidates,
-              measured[1].seconds / measured[0].seconds);
-  if (measured[0].answer > 0 && measured[0].answer == measured[1].answer) return true;
-  std::fprintf(stderr, "the lists differ: %zu and %zu entries\n", measured[0].answer,
-               measured[1].answer);
+  const auto ours = measureApart(candidates, framework);
+  const auto theirs = measureApart(candidates, comparison);
+  const auto parse = measureApart(candidates, bareParse);
+  const auto document = static_cast<double>(ours.document);
+  say("recommend.list", candidates, {ours.microseconds, theirs.microseconds});
+  say("recommend.parse", candidates, {ours.microseconds, parse.microseconds});
+  say("recommend.memory", candidates, {ours.peak / document, parse.peak / document});
+  if (ours.answer > 0 && ours.answer == theirs.answer) return true;
+  std::fprintf(stderr, "the lists differ: %zu and %zu entries\n", ours.answer, theirs.answer);
   return false;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
+  if (argc == 3 && argv[1] == std::string_view("--document"))
+    return std::puts(recommenderDocument(std::strtoul(argv[2], nullptr, 10)).c_str()) < 0;
   std::vector<std::size_t> sizes;
   for (int i = 1; i < argc; ++i)
     sizes.push_back(std::strtoul(argv[i], nullptr, 10));

@@ -3,18 +3,14 @@
 #ifndef WRENVALE_BENCHMARKS_WELCOME_MOMENT_H
 #define WRENVALE_BENCHMARKS_WELCOME_MOMENT_H
 
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
 #include <string>
 
-namespace wrenvale::benchmark {
+#include "benchmarks/Figures.h"
 
-/// Nanoseconds of the clock that all processes share.
-inline long long now() {
-  return std::chrono::steady_clock::now().time_since_epoch().count();
-}
+namespace wrenvale::benchmark {
 
 /// Prints how long it took since `asked`, and since `started` (as text, from whoever started the
 /// process), in milliseconds.

@@ -1,10 +1,13 @@
 // A host of the framework's whose welcome window is due.
 //
 // usage: welcome-benchmark-host <start in ns> once | stay | reopen
-//   once: quits when the page shows the window; stay: two seconds later;
+//   once: quits when the page shows the window; stay: two seconds later, and says for how long the
+//   main thread was busy in a row before the window was shown, and after;
 //   reopen: closes the window each time and asks for it again, twenty times.
 
+#include <algorithm>
 #include <string_view>
+#include <utility>
 
 #include <QApplication>
 #include <QTimer>
@@ -20,6 +23,31 @@ using namespace wrenvale::benchmark;
 using namespace std::chrono_literals;
 
 constexpr int kReopenings = 20;
+
+// How long the event loop did not turn, at the longest.
+class Heartbeat {
+public:
+  Heartbeat() {
+    QObject::connect(&timer_, &QTimer::timeout, [this] { beat(); });
+    timer_.start(1);
+  }
+  /// In milliseconds, since the last time this was asked.
+  double longestPause() {
+    beat();
+    return std::exchange(longest_, 0);
+  }
+
+private:
+  void beat() {
+    const auto time = now();
+    longest_ = std::max(longest_, static_cast<double>(time - last_) / 1e6);
+    last_ = time;
+  }
+
+  QTimer timer_;
+  long long last_ = now();
+  double longest_ = 0;
+};
 
 class Watch : public QObject {
 public:
@@ -45,9 +73,17 @@ private:
   void shown(QWidget* window) {
     if (what_ != "reopen" || closed_ == 0) printShown(asked_, started_);
     if (what_ == "once") return QCoreApplication::exit();
-    if (what_ == "stay") return QTimer::singleShot(2s, qApp, [] { QCoreApplication::exit(); });
+    if (what_ == "stay") return stay();
     QTimer::singleShot(100ms, window, [window] { window->close(); });
     QTimer::singleShot(600ms, this, [this] { closed(); });
+  }
+
+  void stay() {
+    std::printf("busy %.2f", heartbeat_.longestPause());
+    QTimer::singleShot(2s, this, [this] {
+      std::printf(" %.2f\n", heartbeat_.longestPause());
+      QCoreApplication::exit();
+    });
   }
 
   void closed() {
@@ -60,6 +96,7 @@ private:
 
   const char* const started_;
   const std::string_view what_;
+  Heartbeat heartbeat_;
   long long asked_ = 0;
   int closed_ = 0;
 };

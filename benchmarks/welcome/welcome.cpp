@@ -1,8 +1,9 @@
 // What the welcome window costs: from triggerWelcomeWindow() to the page's showWindow(), beside two
 // programs that show the same page with the web engine alone, which one loads when it is asked for
-// the page, as the framework does, and the other is linked to; a call of the page's; the
-// memory of a host that opened the window again and again; and what is left when the host has
-// ended. The programs are started in turns, the server is on the loopback.
+// the page, as the framework does, and the other is linked to; a call of the page's; a list of
+// 1,000 candidates handed to it; the memory of a host that opened the window again and again; and
+// what is left when the host has ended. The programs are started in turns, the server is on the
+// loopback.
 //
 // usage: benchmark-welcome [rounds]   (default 15)
 //
@@ -18,13 +19,16 @@
 
 #include <unistd.h>
 
+#include "benchmarks/Figures.h"
+#include "benchmarks/recommend/Documents.h"
 #include "benchmarks/welcome/Program.h"
 #include "tests/acceptance/VendorServer.h"
 
 namespace {
 
-using wrenvale::benchmark::Ended;
-using wrenvale::benchmark::run;
+using namespace wrenvale::benchmark;
+
+constexpr std::size_t kCandidates = 1000;
 
 // In the framework's window the page also times its calls, and reports to the server.
 constexpr const char* kPage = R"(<!DOCTYPE html>
@@ -56,15 +60,23 @@ constexpr const char* kPage = R"(<!DOCTYPE html>
   }
 </script>)";
 
+// Takes its list some time after it was shown.
+constexpr const char* kListPage = R"(<!DOCTYPE html><title>list</title><script>
+  window.setRecommendations = text => fetch("/report?" + JSON.parse(text).length);
+  window.Recommender.showWindow();
+  setTimeout(() => window.Recommender.ready(), 500);
+</script>)";
+
 struct Report {
   std::mutex mutex;
   std::string text;
 };
 
-double median(std::vector<double> values) {
-  std::sort(values.begin(), values.end());
-  return values.empty() ? 0 : values[values.size() / 2];
-}
+// What the server has: one of the two pages, and the list for the second.
+struct Site {
+  std::string page = kPage;
+  std::string recommendations = "[]";
+};
 
 // The numbers of the line that begins with these words.
 std::vector<double> numbersAfter(const std::string& words, const std::string& output) {
@@ -113,24 +125,31 @@ void compare(int rounds) {
     framework.add(runCleanly(FRAMEWORK_HOST, "once"));
     linked.add(runCleanly(LINKED_PROGRAM, page));
   }
-  const auto print = [](const char* what, const auto& ours, const auto& others) {
-    std::printf("%-48s framework %6.1f ms, bare engine %6.1f ms: %.2f times\n", what, median(ours),
-                median(others), median(ours) / median(others));
-  };
-  print("asked to shown, engine loaded then (at most 1.25)", framework.asked, onDemand.asked);
+  say("welcome.shown", 0, {median(framework.asked), median(onDemand.asked)});
   // These have loaded the engine, and set up OpenGL for it, before they can be asked.
-  print("asked to shown, engine linked to", framework.asked, linked.asked);
-  print("start of the process to shown, engine linked to", framework.started, linked.started);
+  say("welcome.linked", 0, {median(framework.started), median(linked.started)});
 }
 
 void timeCalls(Report& report) {
-  runCleanly(FRAMEWORK_HOST, "stay");
+  const auto busy = numbersAfter("busy", runCleanly(FRAMEWORK_HOST, "stay").output);
+  if (busy.size() != 2) giveUp("the host told no pauses");
+  say("welcome.busy", 0, {busy[0], 0});
   const std::lock_guard lock(report.mutex);
   double half = 0, most = 0;
   if (std::sscanf(report.text.c_str(), "%lf&%lf", &half, &most) != 2)
     giveUp("the page told no times");
-  std::printf("a call of the page's: %.3f ms in the median (at most 0.5), %.3f ms in 99 of 100\n",
-              half, most);
+  say("bridge.call", 0, {half, 0});
+  say("bridge.call99", 0, {most, 0});
+}
+
+void handList(Site& site, Report& report) {
+  site = {kListPage, recommenderDocument(kCandidates)};
+  const auto busy = numbersAfter("busy", runCleanly(FRAMEWORK_HOST, "stay").output);
+  site = {};
+  const std::lock_guard lock(report.mutex);
+  if (busy.size() != 2 || std::atoi(report.text.c_str()) < static_cast<int>(kCandidates) / 2)
+    giveUp("the page got no list");
+  say("bridge.list", kCandidates, {busy[1], 0});
 }
 
 void watchMemory() {
@@ -139,10 +158,8 @@ void watchMemory() {
   const auto first = numbersAfter("memory first", ended.output);
   const auto last = numbersAfter("memory last", ended.output);
   if (before.empty() || first.empty() || last.empty()) giveUp("the host told no memory");
-  std::printf(
-      "memory beside mapped files: %.1f MiB before, %.1f after one window, %.1f after twenty "
-      "more (at most 9.5 more than before)\n",
-      before[0], first[0], last[0]);
+  say("welcome.memory", 1, {first[0], before[0]});
+  say("welcome.memory", 21, {last[0], before[0]});
 }
 
 } // namespace
@@ -151,19 +168,22 @@ int main(int argc, char** argv) {
   const int rounds = argc > 1 ? std::max(1, std::atoi(argv[1])) : 15;
   if (geteuid() == 0) setenv("QTWEBENGINE_DISABLE_SANDBOX", "1", 0);
   Report report;
-  const wrenvale::tests::VendorServer server([&report](const auto& request, auto& response) {
+  Site site;
+  const wrenvale::tests::VendorServer server([&](const auto& request, auto& response) {
     if (request.path == "/report") {
       const std::lock_guard lock(report.mutex);
       report.text = request.target.substr(request.target.find('?') + 1);
+    } else if (request.path.find("recommender_") != std::string::npos) {
+      response.set_content(site.recommendations, "application/json");
     } else if (request.path.ends_with(".json")) {
       response.set_content("[]", "application/json");
     } else {
-      response.set_content(kPage, "text/html");
+      response.set_content(site.page, "text/html");
     }
   });
   compare(rounds);
   timeCalls(report);
+  handList(site, report);
   watchMemory();
-  std::printf("no process and no file was left by any of %d programs\n", 3 * rounds + 2);
   return 0;
 }

@@ -23,7 +23,7 @@ constexpr const char* kTitles[] = {QT_TRANSLATE_NOOP("Wrenvale", "Neutral face")
                                    QT_TRANSLATE_NOOP("Wrenvale", "Happy face")};
 
 // The pictures have four times the size in which they are shown. They are made from the drawings
-// beside them: `rsvg-convert --width 528 smile-0.svg --output smile-0.png`.
+// beside them: `rsvg-convert --width 528 smile-0.svg | pngquant --strip 256 - >smile-0.png`.
 const struct {
   std::string_view name;
   const unsigned char* png;
