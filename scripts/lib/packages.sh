@@ -52,9 +52,12 @@ wrenvale_sanitizer_packages() {
   esac
 }
 
+# What counts instructions, and makes a system's worth of fonts.
+wrenvale_bench_packages() (echo valgrind fontconfig)
+
 # Whatever any of the project's scripts installs.
 wrenvale_every_package() {
-  echo "${wrenvale_packages[@]}" $(wrenvale_sanitizer_packages)
+  echo "${wrenvale_packages[@]}" $(wrenvale_sanitizer_packages) $(wrenvale_bench_packages)
   [ "$(wrenvale_debian)" != 12 ] || echo clang-format-14
 }
 

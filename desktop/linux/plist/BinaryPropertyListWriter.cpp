@@ -83,38 +83,38 @@ public:
 
 private:
   struct Object {
-    Value value;
-    std::vector<std::uint32_t> children; // of a dictionary: all keys, then all values
+    Value value;                              // null for a string of a collection's, which has
+    std::string_view text = {};               // its text where it stands in the collection
+    std::vector<std::uint32_t> children = {}; // of a dictionary: all keys, then all values
   };
 
   std::uint32_t add(const Value& value) {
     const auto index = static_cast<std::uint32_t>(objects_.size());
-    objects_.push_back({value, {}});
+    objects_.push_back({value});
     std::vector<std::uint32_t> children;
     children.reserve(value.size() * 2);
     if (value.isDictionary())
       for (std::size_t i = 0; i < value.size(); ++i)
         children.push_back(addString(value.keyAt(i)));
-    for (std::size_t i = 0; i < value.size(); ++i)
-      children.push_back(addShared(value.at(i)));
+    for (std::size_t i = 0; i < value.size(); ++i) {
+      const auto text = value.stringAt(i);
+      children.push_back(text ? addString(*text) : add(value.at(i)));
+    }
     objects_[index].children = std::move(children);
     return index;
   }
 
-  std::uint32_t addShared(const Value& value) {
-    const auto* string = value.string();
-    return string ? addString(*string) : add(value);
-  }
-
   std::uint32_t addString(std::string_view string) {
     const auto next = static_cast<std::uint32_t>(objects_.size());
-    const auto [known, isNew] = strings_.try_emplace(std::string(string), next);
-    if (isNew) objects_.push_back({Value(string), {}});
+    const auto [known, isNew] = strings_.try_emplace(string, next);
+    if (isNew) objects_.push_back({Value(), string});
     return known->second;
   }
 
   static void append(std::string& out, const Object& object, std::size_t referenceSize) {
-    if (object.value.isDictionary())
+    if (object.value.isNull())
+      appendString(out, object.text);
+    else if (object.value.isDictionary())
       appendMarker(out, 0xD, object.value.size());
     else if (object.value.isArray())
       appendMarker(out, 0xA, object.value.size());
@@ -139,7 +139,7 @@ private:
   }
 
   std::vector<Object> objects_;
-  std::unordered_map<std::string, std::uint32_t> strings_;
+  std::unordered_map<std::string_view, std::uint32_t> strings_;
 };
 
 } // namespace

@@ -15,7 +15,9 @@ bool affordable(const Value& value, PropertyListBudget& budget, int nesting) {
   if (isCollection && nesting >= kMaxPropertyListNesting) return false;
   for (std::size_t i = 0; i < value.size(); ++i) {
     if (value.isDictionary() && !budget.spend(value.keyAt(i).size())) return false;
-    if (!affordable(value.at(i), budget, nesting + 1)) return false;
+    const auto text = value.stringAt(i);
+    if (text ? !budget.spend(text->size()) : !affordable(value.at(i), budget, nesting + 1))
+      return false;
   }
   return true;
 }

@@ -146,13 +146,14 @@ DefaultsContent DefaultsFile::read() const {
 }
 
 std::optional<DefaultsFile::Merged> DefaultsFile::merge(const Value::Dictionary& changes,
-                                                        FileLock::Deadline deadline) const {
+                                                        FileLock::Deadline deadline,
+                                                        const DefaultsContent& known) const {
   const auto target = followLinks(path_);
   if (!target || !makeFolder(folderOf(*target))) return std::nullopt;
   const FileLock lock(*target + ".lock", deadline);
   if (!lock.isHeld()) return std::nullopt;
 
-  auto content = contentOfFile(*target);
+  auto content = known.identity == identity() ? known : contentOfFile(*target);
   if (content.state == State::blocked) return std::nullopt;
   if (content.state != State::damaged && isApplied(content.dictionary, changes))
     return Merged{std::move(content), {}};

@@ -48,11 +48,13 @@ public:
     std::vector<std::string> tooLarge; // keys left out: with them the file would be beyond bounds
   };
 
-  /// Applies the changes (a null value removes its key) to what the file holds by now and makes the
-  /// result durable, which takes no longer than to the deadline when another process holds the
-  /// lock. Nothing when it could not be done: the file is as it was. A damaged file is kept under
-  /// another name, "<file>.damaged" or that with a number; a blocked one is left alone.
-  std::optional<Merged> merge(const Value::Dictionary& changes, FileLock::Deadline deadline) const;
+  /// Applies the changes (a null value removes its key) to what the file holds by now, which is not
+  /// read again when it is still the `known` content, and makes the result durable, which takes no
+  /// longer than to the deadline when another process holds the lock. Nothing when it could not be
+  /// done: the file is as it was. A damaged file is kept under another name, "<file>.damaged" or
+  /// that with a number; a blocked one is left alone.
+  std::optional<Merged> merge(const Value::Dictionary& changes, FileLock::Deadline deadline,
+                              const DefaultsContent& known = {}) const;
 
 private:
   const std::string path_;

@@ -16,6 +16,7 @@ void DefaultsMemory::set(std::string_view key, Value value) {
 DefaultsMemory::Batch DefaultsMemory::unwritten() const {
   Batch batch;
   batch.revision = revision_;
+  batch.known = lastKnown_;
   for (const auto& [key, change] : changes_)
     if (!change.isWritten) batch.changes.emplace(key, change.value);
   return batch;
@@ -29,7 +30,7 @@ void DefaultsMemory::markWritten(const Batch& batch, const DefaultsFile::Merged&
     if (isLatest && std::find(left.begin(), left.end(), key) == left.end())
       change->second.isWritten = true;
   }
-  lastWritten_ = merged.content;
+  lastKnown_ = merged.content;
 }
 
 void DefaultsMemory::markAllWritten() {
@@ -44,6 +45,7 @@ void DefaultsMemory::adopt(DefaultsContent content) {
     return;
   }
   read_ = std::move(content);
+  lastKnown_ = read_;
   std::erase_if(changes_, [](const auto& item) { return item.second.isWritten; });
 }
 

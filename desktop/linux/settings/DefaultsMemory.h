@@ -19,6 +19,7 @@ public:
   /// What is to be written, as of one moment.
   struct Batch {
     Value::Dictionary changes; // null removes the key
+    DefaultsContent known;     // as lastKnown() was then
     std::uint64_t revision = 0;
   };
 
@@ -38,8 +39,9 @@ public:
   bool wasRead() const { return wasRead_; }
   /// The file that the settings were last taken from.
   const FileIdentity& identity() const { return read_.identity; }
-  /// What markWritten() was told last, which saves reading it.
-  const DefaultsContent& lastWritten() const { return lastWritten_; }
+  /// What was last found on disk or written there; as long as it is still there, nobody need read
+  /// it again.
+  const DefaultsContent& lastKnown() const { return lastKnown_; }
   /// Takes the settings from a newer state of the file. What this process wrote there is forgotten,
   /// as others may have changed it since; a blocked file leaves the settings as they were.
   void adopt(DefaultsContent content);
@@ -53,7 +55,7 @@ private:
 
   bool wasRead_ = false;
   DefaultsContent read_;
-  DefaultsContent lastWritten_;
+  DefaultsContent lastKnown_;
   std::map<std::string, Change, std::less<>> changes_;
   std::uint64_t revision_ = 0;
 };

@@ -25,10 +25,10 @@ std::optional<DefaultsFile> fileAt(const std::filesystem::path& path) {
 }
 
 std::optional<DefaultsFile::Merged> tryMerge(const DefaultsFile& file,
-                                             const Value::Dictionary& changes,
+                                             const DefaultsMemory::Batch& batch,
                                              FileLock::Deadline deadline) noexcept {
   try {
-    return file.merge(changes, deadline);
+    return file.merge(batch.changes, deadline, batch.known);
   } catch (...) {
     return std::nullopt;
   }
@@ -74,7 +74,7 @@ std::vector<std::string> LinuxUserDefaults::refresh() const {
   std::vector<Value> before;
   for (const auto& key : keys)
     before.push_back(memory_.find(key));
-  const auto& known = memory_.lastWritten();
+  const auto& known = memory_.lastKnown();
   memory_.adopt(known.identity == identity ? known : file_->read());
   std::size_t i = 0;
   std::erase_if(keys, [&](const auto& key) { return before[i++] == memory_.find(key); });
@@ -139,7 +139,7 @@ bool LinuxUserDefaults::write(Lock& lock, FileLock::Deadline deadline) {
   if (!file_) return false;
   isWriting_ = true;
   lock.unlock();
-  const auto merged = tryMerge(*file_, batch.changes, deadline);
+  const auto merged = tryMerge(*file_, batch, deadline);
   lock.lock();
   isWriting_ = false;
   changed_.notify_all();

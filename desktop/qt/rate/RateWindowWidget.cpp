@@ -58,6 +58,7 @@ RateWindowWidget::RateWindowWidget(Events events, const QString& appName)
   connectButton(*ui_->contactButton, RateButton::kContact);
   fillInTexts();
   setFontSizes();
+  fit();
   setFocus();
 }
 
@@ -122,7 +123,6 @@ void RateWindowWidget::fillInTexts() {
     button->setText(withName(button->text(), QString(appName_).replace('&', "&&")));
     button->setAccessibleDescription(withName(button->accessibleDescription(), appName_));
   }
-  fit();
 }
 
 // The sizes are for the usual font of a desktop; a larger one enlarges all of them in proportion.
@@ -133,7 +133,6 @@ void RateWindowWidget::setFontSizes() {
   setStyleSheet(ownRules_ + "* { font-size: " + sized(11) +
                 "QLabel[role=\"headline\"] { font-size: " + sized(17) +
                 "#closeButton { font-size: " + sized(18));
-  fit();
 }
 
 // The hidden views count too, though layouts hear nothing of what changes in hidden widgets.
@@ -190,9 +189,11 @@ bool RateWindowWidget::event(QEvent* event) {
   switch (event->type()) {
   case QEvent::LanguageChange:
     fillInTexts();
+    fit();
     break;
   case QEvent::ApplicationFontChange:
     setFontSizes();
+    fit();
     break;
   case QEvent::StyleChange:
     if (isVisible()) fit();

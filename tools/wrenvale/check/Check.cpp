@@ -28,8 +28,6 @@ using enum Finding::Weight;
 constexpr std::string_view kReset = "reset_";
 constexpr std::string_view kRecommender = "recommender_";
 constexpr std::string_view kExtension = ".json";
-// What platform::URLLoading takes.
-constexpr std::size_t kLongestDocument = 16 * 1024 * 1024;
 
 struct Document {
   fs::path file;

@@ -26,6 +26,9 @@ std::optional<std::filesystem::path> answeringFile(const std::filesystem::path& 
 /// The media type that the file's name stands for, text in UTF-8.
 std::string contentType(const std::filesystem::path& file);
 
+/// Hosts take no longer document, in bytes: what platform::URLLoading takes.
+inline constexpr std::size_t kLongestDocument = 16 * 1024 * 1024;
+
 /// All of the file, or its first `longest` bytes; nothing when it cannot be read.
 std::optional<std::string> contentsOf(const std::filesystem::path& file,
                                       std::size_t longest = std::string::npos);

@@ -122,8 +122,10 @@ std::optional<Arguments> parsed(int argc, char** argv) {
 }
 
 int printPreview(const Arguments& arguments) {
-  const auto text = contentsOf(arguments.document);
+  const auto text = contentsOf(arguments.document, kLongestDocument + 1);
   if (!text) return complain("cannot read " + arguments.document, kFailed);
+  if (text->size() > kLongestDocument)
+    return complain(arguments.document + ": hosts take no more than 16 MiB", kFailed);
   const auto parsed = readJSON(*text);
   if (!parsed.value) {
     const auto place = TextPlaces(*text).placeOf(parsed.errorOffset);
