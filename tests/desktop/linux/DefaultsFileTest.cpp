@@ -21,29 +21,17 @@ namespace {
 namespace fs = std::filesystem;
 using State = DefaultsContent::State;
 
-FileLock::Deadline soon() {
-  return std::chrono::steady_clock::now() + std::chrono::seconds(10);
-}
-
-std::string listOf(const Value::Dictionary& items) {
-  return *propertyListFromValue(Value(items));
-}
-
-mode_t modeOf(const std::string& path) {
-  struct stat status = {};
-  return stat(path.c_str(), &status) == 0 ? status.st_mode & 07777 : 0;
-}
+const std::string kOldList = "<plist><dict><key>k</key><string>old</string></dict></plist>";
 
 // No file of this process can grow beyond so many bytes meanwhile: what a full disk does.
 void withFullDisk(rlim_t bytes, const std::function<void()>& what) {
+  std::signal(SIGXFSZ, SIG_IGN);
   rlimit before{};
   getrlimit(RLIMIT_FSIZE, &before);
   const rlimit full{bytes, before.rlim_max};
-  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
   setrlimit(RLIMIT_FSIZE, &full);
   what();
   setrlimit(RLIMIT_FSIZE, &before);
-  std::signal(SIGXFSZ, handler);
 }
 
 // Permissions hold meanwhile, even when the superuser runs the tests.
@@ -56,8 +44,8 @@ void withPermissions(const std::function<void()>& what) {
 
 class DefaultsFileTest : public testing::Test {
 protected:
-  std::optional<DefaultsFile::Merged> merge(const Value::Dictionary& changes) {
-    return file_.merge(changes, soon());
+  std::optional<DefaultsFile::Merged> merge(const Value::Dictionary& changes) const {
+    return file_.merge(changes, std::chrono::steady_clock::now() + std::chrono::seconds(10));
   }
   void put(std::string_view content) const {
     folder_.write("/config/com.example.host/defaults.plist", content);
@@ -67,34 +55,28 @@ protected:
   }
 
   const TemporaryFolder folder_;
-  const std::string path_ = folder_.path("/config/com.example.host/defaults.plist");
+  const std::string parent_ = folder_.path("/config/com.example.host");
+  const std::string path_ = parent_ + "/defaults.plist";
   const DefaultsFile file_{path_};
 };
 
 TEST_F(DefaultsFileTest, tellsWhatIsInItsPlace) {
-  struct Row {
+  const struct {
     const char* name;
     std::function<void()> make;
     State state;
-  };
-  const Row rows[]{
+  } rows[]{
       {"nothing", [] {}, State::absent},
       {"no bytes", [&] { put(""); }, State::whole},
       {"an array", [&] { put("<plist><array/></plist>"); }, State::damaged},
-      {"half a list",
-       [&] {
-         put(listOf({{"k", 1}}).substr(0, 30));
-       },
-       State::damaged},
       {"50 MB", [&] { put(""), fs::resize_file(path_, 50'000'000); }, State::damaged},
       {"a pipe", [&] { mkfifo(path_.c_str(), 0600); }, State::blocked},
-      {"a device", [&] { fs::create_symlink("/dev/zero", path_); }, State::blocked},
       {"a link to itself", [&] { fs::create_symlink("defaults.plist", path_); }, State::blocked},
       {"a file for its folder",
        [&] { fs::remove_all(folder_.path("/config")), folder_.write("/config", "a file"); },
        State::blocked}};
   for (const auto& [name, make, state] : rows) {
-    fs::create_directories(fs::path(path_).parent_path());
+    fs::create_directories(parent_);
     make();
     const auto content = file_.read();
     EXPECT_EQ(content.state, state) << name;
@@ -106,23 +88,25 @@ TEST_F(DefaultsFileTest, tellsWhatIsInItsPlace) {
   }
 }
 
-TEST_F(DefaultsFileTest, isMadeForTheUserAloneAndKeepsItsPermissions) {
-  ASSERT_TRUE(merge({{"a", 1}}));
-  EXPECT_EQ(modeOf(folder_.path("/config")), 0700U);
-  EXPECT_EQ(modeOf(folder_.path("/config/com.example.host")), 0700U);
-  EXPECT_EQ(modeOf(path_), 0600U);
-  ASSERT_EQ(chmod(path_.c_str(), 0640), 0);
-  ASSERT_TRUE(merge({{"b", 2}}));
-  EXPECT_EQ(modeOf(path_), 0640U);
+TEST_F(DefaultsFileTest, isMadeForTheUserAloneWhereALinkLeads) {
+  fs::create_directories(parent_);
+  fs::create_symlink("../../elsewhere/real.plist", path_);
+  const auto real = folder_.path("/elsewhere/real.plist");
+  ASSERT_TRUE(merge({{"k", 1}}));
+  EXPECT_EQ(fs::status(folder_.path("/elsewhere")).permissions(), fs::perms(0700));
+  EXPECT_EQ(fs::status(real).permissions(), fs::perms(0600));
+  fs::permissions(real, fs::perms(0640));
+  ASSERT_TRUE(merge({{"k", 2}}));
+  EXPECT_EQ(fs::status(real).permissions(), fs::perms(0640)) << "which the user gave it";
+  EXPECT_TRUE(fs::is_symlink(path_) && holds({{"k", 2}}));
 }
 
 TEST_F(DefaultsFileTest, looksDifferentAfterEachReplacement) {
   std::set<std::pair<std::uint64_t, std::int64_t>> seen;
   for (int i = 1; i <= 30; ++i) {
     const auto merged = merge({{"k", i}});
-    ASSERT_TRUE(merged);
     const auto identity = file_.identity();
-    EXPECT_EQ(merged->content.identity, identity);
+    ASSERT_TRUE(merged && merged->content.identity == identity) << i;
     EXPECT_TRUE(seen.emplace(identity.inode, identity.modified).second) << i;
   }
   fs::last_write_time(path_, fs::file_time_type::clock::now() + std::chrono::hours(1));
@@ -136,20 +120,20 @@ TEST_F(DefaultsFileTest, looksDifferentAfterEachReplacement) {
 
 TEST_F(DefaultsFileTest, keepsEveryByteOfEachDamagedFile) {
   folder_.write("/config/com.example.host/defaults.plist.new", std::string(10000, 'x')); // a crash
-  for (const char* content : {"first", "second", "third"}) {
+  const std::pair<const char*, std::string> rows[]{
+      {"first", ".damaged"}, {"second", ".damaged-2"}, {"third", ".damaged-3"}};
+  for (const auto& [content, name] : rows) {
     put(content);
     ASSERT_TRUE(merge({{"k", 1}}));
     EXPECT_TRUE(holds({{"k", 1}}));
+    EXPECT_EQ(contentsOf(path_ + name), content);
   }
-  EXPECT_EQ(contentsOf(path_ + ".damaged"), "first");
-  EXPECT_EQ(contentsOf(path_ + ".damaged-2"), "second");
-  EXPECT_EQ(contentsOf(path_ + ".damaged-3"), "third");
   EXPECT_FALSE(fs::exists(path_ + ".new"));
 }
 
 TEST_F(DefaultsFileTest, staysWholeWhenTheDiskIsFull) {
   const std::string large(10000, 'x');
-  for (const auto& old : {listOf({{"k", "old"}}), std::string("damaged")})
+  for (const auto& old : {kOldList, std::string("damaged")})
     for (const rlim_t room : {0, 1, 4096}) {
       put(old);
       withFullDisk(room, [&] { EXPECT_FALSE(merge({{"k", large}})) << room; });
@@ -160,26 +144,24 @@ TEST_F(DefaultsFileTest, staysWholeWhenTheDiskIsFull) {
 }
 
 TEST_F(DefaultsFileTest, leavesAloneWhatItMayNotReadOrReplace) {
-  const auto list = listOf({{"k", "old"}});
-  put(list);
-  const auto folder = fs::path(path_).parent_path();
+  put(kOldList);
   chmod(folder_.path().c_str(), 0755);
-  chmod(folder.c_str(), 0777);
+  chmod(parent_.c_str(), 0777);
   chmod(path_.c_str(), 0);
+  const auto unreadable = file_.identity();
   withPermissions([&] {
     EXPECT_EQ(file_.read().state, State::blocked);
     EXPECT_FALSE(merge({{"k", "new"}}));
   });
-  const auto unreadable = file_.identity();
   chmod(path_.c_str(), 0644);
   EXPECT_NE(file_.identity(), unreadable) << "it is worth another look";
-  chmod(folder.c_str(), 0555);
+  chmod(parent_.c_str(), 0555);
   withPermissions([&] {
     EXPECT_TRUE(holds({{"k", "old"}}));
     EXPECT_FALSE(merge({{"k", "new"}}));
   });
-  chmod(folder.c_str(), 0755);
-  EXPECT_EQ(contentsOf(path_), list);
+  chmod(parent_.c_str(), 0755);
+  EXPECT_EQ(contentsOf(path_), kOldList);
 }
 
 TEST_F(DefaultsFileTest, leavesOutOnlyWhatDoesNotFit) {
@@ -191,16 +173,6 @@ TEST_F(DefaultsFileTest, leavesOutOnlyWhatDoesNotFit) {
   ASSERT_TRUE(merged);
   EXPECT_EQ(merged->tooLarge, std::vector<std::string>{"larger"});
   EXPECT_TRUE(holds({{"there", eighths(4)}, {"large", eighths(2)}, {"small", 1}}));
-}
-
-TEST_F(DefaultsFileTest, followsALinkAndLeavesIt) {
-  fs::create_directories(fs::path(path_).parent_path());
-  fs::create_symlink("../../elsewhere/real.plist", path_);
-  for (int i = 1; i <= 2; ++i) { // first it leads to nothing
-    ASSERT_TRUE(merge({{"k", i}}));
-    EXPECT_TRUE(fs::is_symlink(path_));
-    EXPECT_EQ(contentsOf(folder_.path("/elsewhere/real.plist")), listOf({{"k", i}}));
-  }
 }
 
 TEST_F(DefaultsFileTest, givesUpOnALockThatIsNotReleased) {
@@ -215,22 +187,16 @@ TEST(DefaultsPath, isBelowTheConfigurationFolder) {
   const struct {
     const char* configuration;
     const char* home;
-    std::string_view identifier;
+    const char* identifier;
     std::string expected;
   } rows[]{{"/c", "/h", "com.example.host", "/c/com.example.host/defaults.plist"},
            {nullptr, "/h", "x", "/h/.config/x/defaults.plist"},
-           {"", "/h", "x", "/h/.config/x/defaults.plist"},
            {"relative", "/h", "x", "/h/.config/x/defaults.plist"},
-           {nullptr, "relative", "x", ""},
-           {nullptr, nullptr, "x", ""},
-           {"/c", "/h", "", ""},
-           {"/c", "/h", ".", ""},
-           {"/c", "/h", "..", ""},
-           {"/c", "/h", "../x", ""},
-           {"/c", "/h", std::string_view("x\0y", 3), ""}};
+           {"", "relative", "x", ""},
+           {"/c", "/h", ".", ""}};
   for (const auto& row : rows) {
     const auto environment = [&](std::string_view name) {
-      return name == "HOME" ? row.home : name == "XDG_CONFIG_HOME" ? row.configuration : nullptr;
+      return name == "HOME" ? row.home : row.configuration;
     };
     EXPECT_EQ(defaultsFilePath(row.identifier, environment), row.expected) << row.identifier;
   }
