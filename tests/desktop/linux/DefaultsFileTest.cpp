@@ -19,6 +19,7 @@ namespace wrenvale::platform {
 namespace {
 
 namespace fs = std::filesystem;
+using namespace std::string_view_literals;
 using State = DefaultsContent::State;
 
 const std::string kOldList = "<plist><dict><key>k</key><string>old</string></dict></plist>";
@@ -184,22 +185,16 @@ TEST_F(DefaultsFileTest, givesUpOnALockThatIsNotReleased) {
 }
 
 TEST(DefaultsPath, isBelowTheConfigurationFolder) {
-  const struct {
-    const char* configuration;
-    const char* home;
-    const char* identifier;
-    std::string expected;
-  } rows[]{{"/c", "/h", "com.example.host", "/c/com.example.host/defaults.plist"},
-           {nullptr, "/h", "x", "/h/.config/x/defaults.plist"},
-           {"relative", "/h", "x", "/h/.config/x/defaults.plist"},
-           {"", "relative", "x", ""},
-           {"/c", "/h", ".", ""}};
-  for (const auto& row : rows) {
-    const auto environment = [&](std::string_view name) {
-      return name == "HOME" ? row.home : row.configuration;
-    };
-    EXPECT_EQ(defaultsFilePath(row.identifier, environment), row.expected) << row.identifier;
-  }
+  const auto path = [](const char* configuration, const char* home, std::string_view identifier) {
+    return defaultsFilePath(
+        identifier, [&](std::string_view name) { return name == "HOME" ? home : configuration; });
+  };
+  EXPECT_EQ(path("/c", "/h", "com.example.host"), "/c/com.example.host/defaults.plist");
+  EXPECT_EQ(path(nullptr, "/h", "x"), "/h/.config/x/defaults.plist");
+  EXPECT_EQ(path("relative", "/h", "x"), "/h/.config/x/defaults.plist");
+  EXPECT_EQ(path("", "relative", "x"), "");
+  for (const auto identifier : {""sv, "."sv, ".."sv, "../x"sv, "x\0y"sv, "x\ny"sv})
+    EXPECT_EQ(path("/c", "/h", identifier), "") << identifier;
 }
 
 } // namespace
