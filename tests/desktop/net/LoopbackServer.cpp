@@ -9,23 +9,6 @@
 
 namespace wrenvale::platform {
 
-namespace {
-
-std::string receivedHead(int socket) {
-  std::string head;
-  char buffer[4096];
-  while (head.find("\r\n\r\n") == std::string::npos) {
-    const auto count = recv(socket, buffer, sizeof(buffer), 0);
-    if (count <= 0) break;
-    head.append(buffer, static_cast<std::size_t>(count));
-  }
-  std::transform(head.begin(), head.end(), head.begin(),
-                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-  return head;
-}
-
-} // namespace
-
 bool LoopbackServer::Connection::send(std::string_view bytes) const {
   while (!bytes.empty()) {
     const auto count = ::send(socket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
@@ -54,7 +37,7 @@ LoopbackServer::LoopbackServer(Script script)
   if (bind(listener_, generic, size) == 0 && listen(listener_, SOMAXCONN) == 0 &&
       getsockname(listener_, generic, &size) == 0)
     port_ = ntohs(address.sin_port);
-  acceptor_ = std::thread([this] { accept(); });
+  acceptor_ = std::jthread([this] { accept(); });
 }
 
 LoopbackServer::~LoopbackServer() {
@@ -62,8 +45,7 @@ LoopbackServer::~LoopbackServer() {
   acceptor_.join();
   for (const int socket : sockets_)
     shutdown(socket, SHUT_RDWR);
-  for (auto& thread : threads_)
-    thread.join();
+  threads_.clear();
   for (const int socket : sockets_)
     close(socket);
   close(listener_);
@@ -86,7 +68,15 @@ void LoopbackServer::accept() {
 }
 
 void LoopbackServer::serve(int socket) {
-  Connection client{socket, receivedHead(socket)};
+  std::string head;
+  char buffer[4096];
+  while (head.find("\r\n\r\n") == std::string::npos) {
+    const auto count = recv(socket, buffer, sizeof(buffer), 0);
+    if (count <= 0) break;
+    head.append(buffer, static_cast<std::size_t>(count));
+  }
+  std::ranges::transform(head, head.begin(), [](unsigned char c) { return std::tolower(c); });
+  Connection client{socket, head};
   {
     const std::lock_guard lock(mutex_);
     requests_.push_back(client.head());
@@ -96,10 +86,8 @@ void LoopbackServer::serve(int socket) {
 }
 
 std::string answerWith(std::string_view body, std::string_view status, std::string_view headers) {
-  std::string answer = "HTTP/1.1 ";
-  answer.append(status).append("\r\n").append(headers);
-  answer.append("Content-Length: ").append(std::to_string(body.size())).append("\r\n\r\n");
-  return answer.append(body);
+  const std::string head = "HTTP/1.1 " + std::string(status) + "\r\n" + std::string(headers);
+  return head + "Content-Length: " + std::to_string(body.size()) + "\r\n\r\n" + std::string(body);
 }
 
 } // namespace wrenvale::platform
