@@ -129,7 +129,9 @@ TEST(InstalledApplications, TheFirstEntryDecides) {
 TEST(InstalledApplications, APipeIsPassedOverAndALinkIsFollowed) {
   const TemporaryFolder root;
   root.write(kSecond, kEntry);
-  const auto own = root.prepare(kOwn);
+  root.write(kOwn, kEntry);
+  const auto own = root.path(kOwn);
+  std::filesystem::remove(own);
   ASSERT_EQ(::mkfifo(own.c_str(), 0600), 0);
   EXPECT_EQ(entryIn(root, "org.sketch"), kSecond);
   EXPECT_EQ(entryIn(root, "../applications/org.sketch"), "");
