@@ -10,12 +10,8 @@
 namespace wrenvale::platform {
 
 bool LoopbackServer::Connection::send(std::string_view bytes) const {
-  while (!bytes.empty()) {
-    const auto count = ::send(socket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-    if (count <= 0) return false;
-    bytes.remove_prefix(static_cast<std::size_t>(count));
-  }
-  return true;
+  const auto sent = ::send(socket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+  return sent == static_cast<ssize_t>(bytes.size());
 }
 
 void LoopbackServer::Connection::hang() const {
@@ -34,10 +30,16 @@ LoopbackServer::LoopbackServer(Script script)
   address.sin_family = AF_INET;
   address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
   auto* generic = reinterpret_cast<sockaddr*>(&address);
-  if (bind(listener_, generic, size) == 0 && listen(listener_, SOMAXCONN) == 0 &&
-      getsockname(listener_, generic, &size) == 0)
-    port_ = ntohs(address.sin_port);
-  acceptor_ = std::jthread([this] { accept(); });
+  bind(listener_, generic, size);
+  listen(listener_, SOMAXCONN);
+  getsockname(listener_, generic, &size);
+  port_ = ntohs(address.sin_port);
+  acceptor_ = std::jthread([this] {
+    for (int socket = 0; (socket = accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC)) >= 0;) {
+      sockets_.push_back(socket);
+      threads_.emplace_back([this, socket] { serve(socket); });
+    }
+  });
 }
 
 LoopbackServer::~LoopbackServer() {
@@ -60,13 +62,6 @@ std::vector<std::string> LoopbackServer::requests() const {
   return requests_;
 }
 
-void LoopbackServer::accept() {
-  for (int socket = 0; (socket = accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC)) >= 0;) {
-    sockets_.push_back(socket);
-    threads_.emplace_back([this, socket] { serve(socket); });
-  }
-}
-
 void LoopbackServer::serve(int socket) {
   std::string head;
   char buffer[4096];
@@ -77,10 +72,9 @@ void LoopbackServer::serve(int socket) {
   }
   std::ranges::transform(head, head.begin(), [](unsigned char c) { return std::tolower(c); });
   Connection client{socket, head};
-  {
-    const std::lock_guard lock(mutex_);
-    requests_.push_back(client.head());
-  }
+  std::unique_lock lock(mutex_);
+  requests_.push_back(head);
+  lock.unlock();
   script_(client);
   shutdown(socket, SHUT_WR);
 }

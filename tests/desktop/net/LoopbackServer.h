@@ -39,7 +39,6 @@ public:
   std::vector<std::string> requests() const;
 
 private:
-  void accept();
   void serve(int socket);
 
   const Script script_;
