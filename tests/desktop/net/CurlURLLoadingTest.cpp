@@ -88,15 +88,18 @@ TEST(CurlURLLoading, StopsAnEndlessAnswerAtItsBound) {
 
 TEST(CurlURLLoading, TimeOutIsForTheWholeExchange) {
   const LoopbackServer server([](Client& client) {
-    if (client.head().starts_with("get /silent")) return client.hang();
-    if (client.head().starts_with("get /redirecting")) client.send(redirection("/dripping"));
-    const bool isExtending = client.head().starts_with("get /extending");
-    client.send(isExtending ? kChunked + "1;"
-                            : "HTTP/1.1 200 OK\r\nContent-Length: 999999\r\n\r\n");
+    const auto isAsked = [&](const char* path) { return client.head().starts_with(path); };
+    if (isAsked("get /silent")) return client.hang();
+    if (isAsked("get /extending")) client.send(kChunked + "1;");
+    while (isAsked("get /extending") && client.send("extension")) {
+    }
+    std::this_thread::sleep_for(700ms);
+    if (isAsked("get /redirecting")) client.send(redirection("/redirecting"));
+    client.send("HTTP/1.1 200 OK\r\nContent-Length: 1000000\r\n\r\n");
     while (client.send("x"))
-      if (!isExtending) std::this_thread::sleep_for(20ms);
+      std::this_thread::sleep_for(20ms);
   });
-  for (const char* path : {"/silent", "/extending", "/redirecting"}) {
+  for (const char* path : {"/silent", "/extending", "/dripping", "/redirecting"}) {
     const auto begin = std::chrono::steady_clock::now();
     EXPECT_EQ(loaded(server.url(path), 1s), std::nullopt) << path;
     const auto taken = std::chrono::steady_clock::now() - begin;
