@@ -1,6 +1,7 @@
 // What the running system says of itself, its user, its applications and its host.
 
 #include <map>
+#include <tuple>
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>
@@ -43,11 +44,7 @@ std::string entryIn(const TemporaryFolder& root, std::string_view identifier) {
 }
 
 TEST(LinuxSystem, ModelIsTheFirstNameThatTheFirmwareStates) {
-  const struct {
-    Text firmware;
-    Text deviceTree;
-    Text model;
-  } rows[] = {
+  const std::tuple<Text, Text, Text> rows[] = {
       {{}, {}, {}},
       {"\t Notebook 14, G2 \r\n\n", "Board\0"s, "Notebook 14, G2"},
       {{}, "Board 4 Model B\0"s, "Board 4 Model B"},
@@ -55,11 +52,11 @@ TEST(LinuxSystem, ModelIsTheFirstNameThatTheFirmwareStates) {
       {"", "\0"s, {}},
       {std::string(10'000'000, 'x'), {}, std::string(256, 'x')},
   };
-  for (const auto& row : rows) {
+  for (const auto& [firmware, deviceTree, model] : rows) {
     const TemporaryFolder root;
-    if (row.firmware) root.write("/sys/devices/virtual/dmi/id/product_name", *row.firmware);
-    if (row.deviceTree) root.write("/proc/device-tree/model", *row.deviceTree);
-    EXPECT_EQ(LinuxSystem(root.path()).sysctlbyname("hw.model"), row.model);
+    if (firmware) root.write("/sys/devices/virtual/dmi/id/product_name", *firmware);
+    if (deviceTree) root.write("/proc/device-tree/model", *deviceTree);
+    EXPECT_EQ(LinuxSystem(root.path()).sysctlbyname("hw.model"), model);
   }
 }
 
@@ -70,11 +67,7 @@ TEST(LinuxSystem, ReleaseIsThatOfTheRunningSystem) {
 }
 
 TEST(Locale, IsReadFromTheEnvironment) {
-  const struct {
-    Variables variables;
-    Text country;
-    std::vector<std::string> languages;
-  } rows[] = {
+  const std::tuple<Variables, Text, std::vector<std::string>> rows[] = {
       {{}, {}, {}},
       {{{"LANG", "de_DE.UTF-8@euro"}}, "DE", {"de"}},
       {{{"LANG", "eo.UTF-8"}}, {}, {"eo"}},
@@ -94,11 +87,10 @@ TEST(Locale, IsReadFromTheEnvironment) {
       {{{"LANGUAGE", "../../x:de/DE:de DE:de?x=1:de%2F:d\xc3\xa9:en"}}, {}, {"en"}},
       {{{"LANGUAGE", "_DE:de_:de__DE:C:POSIX:12:abcdefghi:de_abcdefghi:.UTF-8:@x:sv"}}, {}, {"sv"}},
   };
-  for (const auto& row : rows) {
-    const EnvironmentLocale locale(environmentOf(row.variables));
-    const auto what = testing::PrintToString(row.variables);
-    EXPECT_EQ(locale.countryCode(), row.country) << what;
-    EXPECT_EQ(locale.preferredLanguages(), row.languages) << what;
+  for (const auto& [variables, country, languages] : rows) {
+    const EnvironmentLocale locale(environmentOf(variables));
+    EXPECT_EQ(locale.countryCode(), country) << testing::PrintToString(variables);
+    EXPECT_EQ(locale.preferredLanguages(), languages) << testing::PrintToString(variables);
   }
 }
 

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <future>
 #include <semaphore>
+#include <tuple>
 
 #include <QByteArray>
 #include <httplib.h>
@@ -48,11 +49,7 @@ const std::string kChunked = "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\
 TEST(CurlURLLoading, TakesWholeBodiesOfAnyStatus) {
   const std::string longest(kLongestBody, 'x');
   const auto coding = "Content-Encoding: deflate\r\n";
-  const struct {
-    const char* name;
-    std::string answer;
-    Body expected;
-  } rows[] = {
+  const std::tuple<const char*, std::string, Body> rows[] = {
       {"binary", answerWith(std::string_view("\0\xFF\r\n", 4)), std::string("\0\xFF\r\n", 4)},
       {"no content", "HTTP/1.1 204 No Content\r\n\r\n", ""},
       {"not found", answerWith("where?", "404 Not Found"), "where?"},
@@ -63,9 +60,9 @@ TEST(CurlURLLoading, TakesWholeBodiesOfAnyStatus) {
       {"truncated", "HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\n[1]", {}},
       {"truncated head", "HTTP/1.1 200 OK\r\nContent-Le", {}},
   };
-  for (const auto& row : rows) {
-    const LoopbackServer server(row.answer);
-    EXPECT_TRUE(loaded(server.url()) == row.expected) << row.name;
+  for (const auto& [name, answer, expected] : rows) {
+    const LoopbackServer server(answer);
+    EXPECT_TRUE(loaded(server.url()) == expected) << name;
   }
 }
 

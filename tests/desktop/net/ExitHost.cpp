@@ -42,8 +42,7 @@ void workForEver(const char* modulePath, std::string_view address) {
 
 } // namespace
 
-int main(int argc, char** argv) {
-  if (argc != 4) return 2;
+int main(int, char** argv) {
   for (int i = 0; i < 3; ++i)
     std::thread(workForEver, argv[1], argv[3]).detach();
   std::this_thread::sleep_for(std::chrono::milliseconds(std::atoll(argv[2])));
