@@ -119,10 +119,11 @@ TEST(PropertyList, readsWhatOtherWritersKeep) {
 
 TEST(PropertyList, survivesMalformedAndMaliciousLists) {
   for (const auto* inner :
-       {"", "<integer>twelve</integer>", "<date>2001-02-30T04:05:06Z</date>", "<data>Y!</data>",
-        "<string>&#xD800;</string>", "<string>&#0;</string>", "<string>&amp</string>",
-        "<string><true/></string>", "<string>a</strings>", "<dict><true/></dict>",
-        "<dict><key>k</key></dict>", "<array></dict>"})
+       {"", "<integer>twelve</integer>", "<date>2001-02-30T04:05:06Z</date>",
+        "<date>2001-02-03 04:05:06Z</date>", "<data>Y!</data>", "<string>&#xD800;</string>",
+        "<string>&#0;</string>", "<string>&amp</string>", "<string><true/></string>",
+        "<string>a</strings>", "<dict><true/></dict>", "<dict><key>k</key></dict>",
+        "<array></dict>"})
     EXPECT_FALSE(valueFromPropertyList(xml(inner))) << inner;
 
   const auto good = binaryList({"\x09"});
@@ -155,6 +156,7 @@ TEST(PropertyList, survivesMalformedAndMaliciousLists) {
       {"dictionaries in each other", repeated("<dict><key/>", 300000)},
       {"a million arrays, closed in a comment", repeated("<array><!--</array>-->", 300000)},
       {"comment without end", "<plist><!-- <true/></plist>"},
+      {"cut off", "<plist><true/>"},
       {"declarations", "<!DOCTYPE plist [<!ENTITY a 'b'>]><plist><true/></plist>"},
       {"too large", xml("<string>" + std::string(kMaxPropertyListSize, 'x') + "</string>")},
       {"too many", xml("<array>" + repeated("<true/>", 1100000) + "</array>")}};

@@ -71,14 +71,14 @@ TEST(CurlURLLoading, StopsAnEndlessAnswerAtItsBound) {
       {"HTTP/1.1 200 OK\r\n\r\n", std::string(1 << 16, 'x')},
       {"HTTP/1.1 200 OK\r\n", "X: y\r\n"},
       {"", "HTTP/1.1 100 Continue\r\n\r\n"}};
-  for (const auto& [begin, more] : rows) {
+  for (const auto& row : rows) {
     std::atomic<std::size_t> sent = 0;
-    const LoopbackServer server([&begin, &more, &sent](Client& client) {
-      client.send(begin);
-      while (client.send(more))
-        sent += more.size();
+    const LoopbackServer server([&](Client& client) {
+      client.send(row.first);
+      while (client.send(row.second))
+        sent += row.second.size();
     });
-    EXPECT_EQ(loaded(server.url()), std::nullopt) << more;
+    EXPECT_EQ(loaded(server.url()), std::nullopt) << row.second;
     EXPECT_LT(sent, 3 * kLongestBody) << "what the sockets hold comes on top of the bound";
   }
 }
@@ -114,20 +114,19 @@ TEST(CurlURLLoading, FollowsRedirectionsWithinBoundsAndNothingButWebAddresses) {
   EXPECT_EQ(loaded(countdown.url("/11")), std::nullopt);
   EXPECT_THAT(countdown.requests(), AllOf(SizeIs(22), Each(Not(HasSubstr("cookie:")))));
 
-  for (const std::string address : {"file:///etc/hostname", "data:text/plain,hello",
-                                    "ftp://127.0.0.1/", "http://", "http://127.0.0.1:99999/"}) {
+  for (const std::string address :
+       {"file:///etc/hostname", "data:text/plain,hello", "ftp://127.0.0.1/", "http://",
+        "http://127.0.0.1:99999/", "http://127.0.0.1:1/"}) {
     const LoopbackServer server(redirection(address));
-    EXPECT_EQ(loaded(server.url(), 5s), std::nullopt) << address;
-    EXPECT_EQ(loaded(address, 5s), std::nullopt) << address;
+    EXPECT_EQ(loaded(server.url()), std::nullopt) << address;
+    EXPECT_EQ(loaded(address), std::nullopt) << address;
   }
-  for (const char* address : {"", "/etc/hostname", "http://127.0.0.1:1/"})
-    EXPECT_EQ(loaded(address, 5s), std::nullopt) << address;
 }
 
 TEST(CurlURLLoading, SendsTheHeadersAsGivenAndLooksUpTheHostByName) {
   const LoopbackServer server(answerWith("ok"));
   CurlURLLoading loading;
-  const std::string agent = "Photo%20Tool/1204 123456789 Darwin/14.5.0 (x86_64) (M%2C1)";
+  const std::string agent = "photo%20tool/1204 darwin/14.5.0 (x86_64) (m%2c1)";
   const auto url = server.url("/store/a%2Fb?data=%2B", "localhost");
   EXPECT_EQ(begun(loading, {.url = url, .headers = {{"User-Agent", agent}}}).get(), "ok");
   EXPECT_EQ(begun(loading, {.url = server.url(), .headers = {{"A", "b\r\nInjected: 1"}}}).get(),
@@ -136,8 +135,7 @@ TEST(CurlURLLoading, SendsTheHeadersAsGivenAndLooksUpTheHostByName) {
       server.requests(),
       ElementsAre(AllOf(HasSubstr("get /store/a%2fb?data=%2b http/1.1\r\n"),
                         HasSubstr("host: " + server.url("", "localhost").substr(7) + "\r\n"),
-                        HasSubstr("user-agent: photo%20tool/1204 123456789 darwin/14.5.0 "
-                                  "(x86_64) (m%2c1)\r\n"))));
+                        HasSubstr("user-agent: " + agent + "\r\n"))));
 }
 
 TEST(CurlURLLoading, UsesTheProxyOfTheEnvironment) {
