@@ -1,12 +1,13 @@
-// What the running system says of itself, its user and its host.
+// What the running system says of itself, its user, its applications and its host.
 
-#include <fstream>
 #include <map>
+#include <tuple>
 
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 
 #include "TemporaryFolder.h"
+#include "desktop/linux/system/DesktopEntries.h"
 #include "desktop/linux/system/EnvironmentLocale.h"
 #include "desktop/linux/system/HostInfo.h"
 #include "desktop/linux/system/LinuxSystem.h"
@@ -15,18 +16,35 @@ namespace wrenvale::platform {
 namespace {
 
 using namespace std::string_literals;
-using testing::Optional;
 using Text = std::optional<std::string>;
+using Variables = std::map<std::string, std::string>;
+using Files = std::map<std::string, std::string>; // path in the test's folder -> content
 
-constexpr const char* kFirmware = "/sys/devices/virtual/dmi/id/product_name";
-constexpr const char* kDeviceTree = "/proc/device-tree/model";
+constexpr const char* kOwn = "/own/applications/org.sketch.desktop";
+constexpr const char* kFirst = "/first/applications/org.sketch.desktop";
+constexpr const char* kSecond = "/second/applications/org.sketch.desktop";
+constexpr const char* kEntry = "[Desktop Entry]\nType=Application\nName=Sketch\n";
+
+Environment environmentOf(const Variables& variables) {
+  return [variables](const char* name) {
+    const auto found = variables.find(name);
+    return found == variables.end() ? nullptr : found->second.c_str();
+  };
+}
+
+// The entry of the application, as a path in the folder; empty without.
+std::string entryIn(const TemporaryFolder& root, std::string_view identifier) {
+  const auto environment =
+      environmentOf({{"HOME", root.path("/home")},
+                     {"XDG_DATA_HOME", root.path("/own")},
+                     {"XDG_DATA_DIRS", root.path("/first") + ":" + root.path("/second")}});
+  const DesktopEntries desktop(environment, root.path());
+  const auto found = desktop.URLForApplicationWithBundleIdentifier(identifier);
+  return found ? found->substr(root.path().size()) : "";
+}
 
 TEST(LinuxSystem, ModelIsTheFirstNameThatTheFirmwareStates) {
-  const struct {
-    Text firmware;
-    Text deviceTree;
-    Text model;
-  } rows[] = {
+  const std::tuple<Text, Text, Text> rows[] = {
       {{}, {}, {}},
       {"\t Notebook 14, G2 \r\n\n", "Board\0"s, "Notebook 14, G2"},
       {{}, "Board 4 Model B\0"s, "Board 4 Model B"},
@@ -34,40 +52,22 @@ TEST(LinuxSystem, ModelIsTheFirstNameThatTheFirmwareStates) {
       {"", "\0"s, {}},
       {std::string(10'000'000, 'x'), {}, std::string(256, 'x')},
   };
-  for (const auto& row : rows) {
+  for (const auto& [firmware, deviceTree, model] : rows) {
     const TemporaryFolder root;
-    if (row.firmware) root.write(kFirmware, *row.firmware);
-    if (row.deviceTree) root.write(kDeviceTree, *row.deviceTree);
-    EXPECT_EQ(LinuxSystem(root.path()).sysctlbyname("hw.model"), row.model);
+    if (firmware) root.write("/sys/devices/virtual/dmi/id/product_name", *firmware);
+    if (deviceTree) root.write("/proc/device-tree/model", *deviceTree);
+    EXPECT_EQ(LinuxSystem(root.path()).sysctlbyname("hw.model"), model);
   }
 }
 
-// A read of either would wait forever or never end.
-TEST(LinuxSystem, WhatIsNoFileIsPassedOver) {
-  const TemporaryFolder root;
-  root.write(kDeviceTree, "Board");
-  const auto firmware = root.prepare(kFirmware);
-  ASSERT_EQ(::mkfifo(firmware.c_str(), 0600), 0);
-  EXPECT_THAT(LinuxSystem(root.path()).sysctlbyname("hw.model"), Optional("Board"s)) << "pipe";
-  std::filesystem::remove(firmware);
-  std::filesystem::create_symlink("/dev/zero", firmware);
-  EXPECT_THAT(LinuxSystem(root.path()).sysctlbyname("hw.model"), Optional("Board"s)) << "device";
-}
-
 TEST(LinuxSystem, ReleaseIsThatOfTheRunningSystem) {
-  std::string release;
-  std::getline(std::ifstream("/proc/sys/kernel/osrelease"), release);
-  if (release.empty()) GTEST_SKIP() << "the system does not show its release elsewhere";
-  EXPECT_THAT(LinuxSystem().sysctlbyname("kern.osrelease"), Optional(release));
+  EXPECT_EQ(LinuxSystem().sysctlbyname("kern.osrelease").value_or("") + "\n",
+            contentsOf("/proc/sys/kernel/osrelease"));
   EXPECT_EQ(LinuxSystem().sysctlbyname("kern.ostype"), std::nullopt);
 }
 
 TEST(Locale, IsReadFromTheEnvironment) {
-  const struct {
-    std::map<std::string, std::string> variables;
-    Text country;
-    std::vector<std::string> languages;
-  } rows[] = {
+  const std::tuple<Variables, Text, std::vector<std::string>> rows[] = {
       {{}, {}, {}},
       {{{"LANG", "de_DE.UTF-8@euro"}}, "DE", {"de"}},
       {{{"LANG", "eo.UTF-8"}}, {}, {"eo"}},
@@ -79,24 +79,79 @@ TEST(Locale, IsReadFromTheEnvironment) {
       {{{"LC_ALL", "it_CH"}, {"LC_MESSAGES", "fr_FR"}, {"LANG", "de_DE"}}, "CH", {"it"}},
       {{{"LC_ALL", ""}, {"LC_MESSAGES", "fr_FR"}, {"LANG", "de_DE"}}, "FR", {"fr"}},
       {{{"LC_ALL", "../x"}, {"LANG", "de_DE"}}, {}, {}},
-      {{{"LANG", "fr_CH"}, {"LANGUAGE", "fr_CH:de_DE.UTF-8@euro:en"}},
-       "CH",
-       {"fr-CH", "de-DE", "en"}},
       {{{"LANG", "nl_BE"}, {"LANGUAGE", "::"}}, "BE", {"nl"}},
-      {{{"LANGUAGE", ":en_GB::en:zh_Hant_TW:en_GB:"}}, {}, {"en-GB", "en", "zh-Hant-TW"}},
+      {{{"LANG", "fr_CH"}, {"LANGUAGE", ":en_GB::en.UTF-8@x:zh_Hant_TW:en_GB:"}},
+       "CH",
+       {"en-GB", "en", "zh-Hant-TW"}},
       // What would not be safe in an address, or is no name of a language.
       {{{"LANGUAGE", "../../x:de/DE:de DE:de?x=1:de%2F:d\xc3\xa9:en"}}, {}, {"en"}},
       {{{"LANGUAGE", "_DE:de_:de__DE:C:POSIX:12:abcdefghi:de_abcdefghi:.UTF-8:@x:sv"}}, {}, {"sv"}},
-      {{{"LANG", "de_D/E"}, {"LANGUAGE", "/"}}, {}, {}},
   };
-  for (const auto& row : rows) {
-    const EnvironmentLocale locale([&row](const char* name) {
-      const auto found = row.variables.find(name);
-      return found == row.variables.end() ? nullptr : found->second.c_str();
-    });
-    const auto what = testing::PrintToString(row.variables);
-    EXPECT_EQ(locale.countryCode(), row.country) << what;
-    EXPECT_EQ(locale.preferredLanguages(), row.languages) << what;
+  for (const auto& [variables, country, languages] : rows) {
+    const EnvironmentLocale locale(environmentOf(variables));
+    EXPECT_EQ(locale.countryCode(), country) << testing::PrintToString(variables);
+    EXPECT_EQ(locale.preferredLanguages(), languages) << testing::PrintToString(variables);
+  }
+}
+
+TEST(InstalledApplications, TheFirstEntryDecides) {
+  const std::pair<Files, std::string> rows[] = {
+      {{{"/own/applications/sub/org.sketch.desktop", kEntry},
+        {"/own/applications/org.sketch", kEntry},
+        {"/own/org.sketch.desktop", kEntry}},
+       ""},
+      {{{kOwn, ""}, {kFirst, kEntry}}, kOwn},
+      {{{kFirst, kEntry}, {kSecond, kEntry}}, kFirst},
+      {{{kOwn, kEntry + "Hidden=true\n"s}, {kSecond, kEntry}}, ""},
+      {{{kOwn, kEntry + "Hidden=false\n"s}}, kOwn},
+      {{{kOwn, kEntry + "Hidden = true \r\n"s}}, ""},
+      {{{kOwn, "# x\n\n  [Desktop Entry]\nHidden=true"}}, ""},
+      {{{kOwn, kEntry + std::string(100'000, '#') + "\nHidden=true\n"}}, ""},
+      {{{kOwn, kEntry + "#Hidden=true\nHidden[de]=true\nXHidden=true\nHidden\n"s}}, kOwn},
+      {{{kOwn, "Hidden=true\n[Other]\nHidden=true\n"s + kEntry + "[More]\nHidden=true\n"}}, kOwn},
+  };
+  for (const auto& [files, found] : rows) {
+    const TemporaryFolder root;
+    for (const auto& [name, content] : files)
+      root.write(name, content);
+    EXPECT_EQ(entryIn(root, "org.sketch"), found) << testing::PrintToString(files).substr(0, 1000);
+  }
+}
+
+TEST(InstalledApplications, APipeIsPassedOverAndALinkIsFollowed) {
+  const TemporaryFolder root;
+  root.write(kSecond, kEntry);
+  root.write(kOwn, kEntry);
+  const auto own = root.path(kOwn);
+  std::filesystem::remove(own);
+  ASSERT_EQ(::mkfifo(own.c_str(), 0600), 0);
+  EXPECT_EQ(entryIn(root, "org.sketch"), kSecond);
+  EXPECT_EQ(entryIn(root, "../applications/org.sketch"), "");
+  std::filesystem::remove(own);
+  std::filesystem::create_symlink(root.path(kSecond), own);
+  EXPECT_EQ(entryIn(root, "org.sketch"), kOwn);
+}
+
+TEST(InstalledApplications, FoldersFollowTheEnvironment) {
+  const std::string system = "/usr/local/share/applications/ /usr/share/applications/ ";
+  const std::string flatpak = "/var/lib/flatpak/exports/share/applications/ ";
+  const std::string snap = "/var/lib/snapd/desktop/applications/ ";
+  const std::string home = "/h/.local/share/flatpak/exports/share/applications/ ";
+  const std::pair<Variables, std::string> rows[] = {
+      {{{"HOME", "h"}, {"XDG_DATA_DIRS", ""}}, system + flatpak + snap},
+      {{{"HOME", "/h"}, {"XDG_DATA_HOME", "relative"}},
+       "/h/.local/share/applications/ " + system + home + flatpak + snap},
+      {{{"HOME", "/h"},
+        {"XDG_DATA_HOME", "/d/"},
+        {"XDG_DATA_DIRS", "/a:b::./c:/e//f:/a//:/var/lib/snapd/desktop"}},
+       "/d/applications/ /a/applications/ /e/f/applications/ " + snap + home + flatpak},
+  };
+  for (const auto& [variables, expected] : rows) {
+    const DesktopEntries entries(environmentOf(variables));
+    std::string folders; // a blank behind each
+    for (const auto& folder : entries.folders())
+      folders += folder + " ";
+    EXPECT_EQ(folders, expected);
   }
 }
 

@@ -36,14 +36,10 @@ public:
   /// The absolute path of something in the folder; `name` may begin with "/".
   std::string path(std::string_view name = {}) const { return path_ + std::string(name); }
 
-  /// The same path, after making every folder above it.
-  std::string prepare(std::string_view name) const {
-    std::filesystem::create_directories(std::filesystem::path(path(name)).parent_path());
-    return path(name);
-  }
-
   void write(std::string_view name, std::string_view content) const {
-    std::ofstream(prepare(name), std::ios::binary) << content;
+    const std::filesystem::path file(path(name));
+    std::filesystem::create_directories(file.parent_path());
+    std::ofstream(file, std::ios::binary) << content;
   }
 
 private:

@@ -2,15 +2,13 @@
 //
 //   wrenvale_net_exit_host <module> <milliseconds until then> <address>
 //
-// The threads keep downloading the address, or encrypting when it is a key. Prints the time at
-// which the end began, in nanoseconds of the monotonic clock.
+// The threads keep downloading the address, or encrypting when it is a key.
 
 #include <dlfcn.h>
 #include <netdb.h>
 #include <unistd.h>
 
 #include <chrono>
-#include <cstdio>
 #include <cstdlib>
 #include <string_view>
 #include <thread>
@@ -44,12 +42,9 @@ void workForEver(const char* modulePath, std::string_view address) {
 
 } // namespace
 
-int main(int argc, char** argv) {
-  if (argc != 4) return 2;
+int main(int, char** argv) {
   for (int i = 0; i < 3; ++i)
     std::thread(workForEver, argv[1], argv[3]).detach();
   std::this_thread::sleep_for(std::chrono::milliseconds(std::atoll(argv[2])));
-  const auto now = std::chrono::steady_clock::now().time_since_epoch();
-  std::printf("%lld\n", static_cast<long long>(std::chrono::nanoseconds(now).count()));
   return 0;
 }

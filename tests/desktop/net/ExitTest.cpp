@@ -26,11 +26,8 @@ TEST(Exit, IsNeitherHeldUpNorCrashedByWorkUnderWay) {
   for (const auto& address : addresses)
     for (const char* delay : {"0", "1", "3", "10", "30"}) {
       const auto ended = home.run(WRENVALE_EXIT_HOST, {WRENVALE_NET_MODULE, delay, address});
-      const auto took = std::chrono::steady_clock::now().time_since_epoch() -
-                        std::chrono::nanoseconds(std::atoll(ended.output.c_str()));
       EXPECT_EQ(ended.status, 0) << address << " after " << delay << " ms";
-      // Nothing is waited for; a busy machine takes its time.
-      EXPECT_LT(took, 1s) << address << " after " << delay << " ms";
+      EXPECT_LT(ended.time, 3s) << address << " after " << delay << " ms: it waits for something";
     }
 }
 

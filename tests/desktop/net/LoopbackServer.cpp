@@ -9,30 +9,9 @@
 
 namespace wrenvale::platform {
 
-namespace {
-
-std::string receivedHead(int socket) {
-  std::string head;
-  char buffer[4096];
-  while (head.find("\r\n\r\n") == std::string::npos) {
-    const auto count = recv(socket, buffer, sizeof(buffer), 0);
-    if (count <= 0) break;
-    head.append(buffer, static_cast<std::size_t>(count));
-  }
-  std::transform(head.begin(), head.end(), head.begin(),
-                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-  return head;
-}
-
-} // namespace
-
 bool LoopbackServer::Connection::send(std::string_view bytes) const {
-  while (!bytes.empty()) {
-    const auto count = ::send(socket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
-    if (count <= 0) return false;
-    bytes.remove_prefix(static_cast<std::size_t>(count));
-  }
-  return true;
+  const auto sent = ::send(socket, bytes.data(), bytes.size(), MSG_NOSIGNAL);
+  return sent == static_cast<ssize_t>(bytes.size());
 }
 
 void LoopbackServer::Connection::hang() const {
@@ -51,10 +30,16 @@ LoopbackServer::LoopbackServer(Script script)
   address.sin_family = AF_INET;
   address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
   auto* generic = reinterpret_cast<sockaddr*>(&address);
-  if (bind(listener_, generic, size) == 0 && listen(listener_, SOMAXCONN) == 0 &&
-      getsockname(listener_, generic, &size) == 0)
-    port_ = ntohs(address.sin_port);
-  acceptor_ = std::thread([this] { accept(); });
+  bind(listener_, generic, size);
+  listen(listener_, SOMAXCONN);
+  getsockname(listener_, generic, &size);
+  port_ = ntohs(address.sin_port);
+  acceptor_ = std::jthread([this] {
+    for (int socket = 0; (socket = accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC)) >= 0;) {
+      sockets_.push_back(socket);
+      threads_.emplace_back([this, socket] { serve(socket); });
+    }
+  });
 }
 
 LoopbackServer::~LoopbackServer() {
@@ -62,8 +47,7 @@ LoopbackServer::~LoopbackServer() {
   acceptor_.join();
   for (const int socket : sockets_)
     shutdown(socket, SHUT_RDWR);
-  for (auto& thread : threads_)
-    thread.join();
+  threads_.clear();
   for (const int socket : sockets_)
     close(socket);
   close(listener_);
@@ -78,28 +62,26 @@ std::vector<std::string> LoopbackServer::requests() const {
   return requests_;
 }
 
-void LoopbackServer::accept() {
-  for (int socket = 0; (socket = accept4(listener_, nullptr, nullptr, SOCK_CLOEXEC)) >= 0;) {
-    sockets_.push_back(socket);
-    threads_.emplace_back([this, socket] { serve(socket); });
-  }
-}
-
 void LoopbackServer::serve(int socket) {
-  Connection client{socket, receivedHead(socket)};
-  {
-    const std::lock_guard lock(mutex_);
-    requests_.push_back(client.head());
+  std::string head;
+  char buffer[4096];
+  while (head.find("\r\n\r\n") == std::string::npos) {
+    const auto count = recv(socket, buffer, sizeof(buffer), 0);
+    if (count <= 0) break;
+    head.append(buffer, static_cast<std::size_t>(count));
   }
+  std::ranges::transform(head, head.begin(), [](unsigned char c) { return std::tolower(c); });
+  Connection client{socket, head};
+  std::unique_lock lock(mutex_);
+  requests_.push_back(head);
+  lock.unlock();
   script_(client);
   shutdown(socket, SHUT_WR);
 }
 
 std::string answerWith(std::string_view body, std::string_view status, std::string_view headers) {
-  std::string answer = "HTTP/1.1 ";
-  answer.append(status).append("\r\n").append(headers);
-  answer.append("Content-Length: ").append(std::to_string(body.size())).append("\r\n\r\n");
-  return answer.append(body);
+  const std::string head = "HTTP/1.1 " + std::string(status) + "\r\n" + std::string(headers);
+  return head + "Content-Length: " + std::to_string(body.size()) + "\r\n\r\n" + std::string(body);
 }
 
 } // namespace wrenvale::platform

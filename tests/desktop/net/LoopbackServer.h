@@ -32,17 +32,13 @@ public:
 
   explicit LoopbackServer(Script script);
   explicit LoopbackServer(std::string answer);
-  LoopbackServer(const LoopbackServer&) = delete;
-  LoopbackServer& operator=(const LoopbackServer&) = delete;
   ~LoopbackServer();
 
-  int port() const { return port_; }
   std::string url(std::string_view path = "/", std::string_view host = "127.0.0.1") const;
   /// The heads of all requests so far.
   std::vector<std::string> requests() const;
 
 private:
-  void accept();
   void serve(int socket);
 
   const Script script_;
@@ -51,8 +47,8 @@ private:
   mutable std::mutex mutex_;
   std::vector<int> sockets_;
   std::vector<std::string> requests_;
-  std::vector<std::thread> threads_;
-  std::thread acceptor_;
+  std::vector<std::jthread> threads_;
+  std::jthread acceptor_;
 };
 
 /// An answer with this body and its true length.
