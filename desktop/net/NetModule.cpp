@@ -1,4 +1,4 @@
-#include "desktop/NetModule.h"
+#include "desktop/Modules.h"
 
 #include <wrenvale/Export.h>
 

@@ -1,4 +1,4 @@
-#include "desktop/WebViewModule.h"
+#include "desktop/Modules.h"
 
 #include <utility>
 

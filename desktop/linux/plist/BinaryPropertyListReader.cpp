@@ -5,7 +5,7 @@
 #include <cmath>
 #include <limits>
 
-#include "desktop/linux/system/Unicode.h"
+#include "desktop/linux/plist/UTF16.h"
 
 namespace wrenvale::platform {
 

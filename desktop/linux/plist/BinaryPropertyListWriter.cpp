@@ -3,7 +3,7 @@
 #include <bit>
 #include <unordered_map>
 
-#include "desktop/linux/system/Unicode.h"
+#include "desktop/linux/plist/UTF16.h"
 
 namespace wrenvale::platform {
 

@@ -11,7 +11,7 @@
 #include <mutex>
 #include <string>
 
-#include "desktop/NetModule.h"
+#include "desktop/Modules.h"
 #include "platform/Net.h"
 
 namespace wrenvale::platform {

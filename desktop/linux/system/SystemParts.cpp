@@ -1,5 +1,4 @@
 #include "desktop/Modules.h"
-#include "desktop/NetModule.h"
 #include "desktop/linux/settings/DefaultsFile.h"
 #include "desktop/linux/settings/LinuxUserDefaults.h"
 #include "desktop/linux/system/DesktopEntries.h"

@@ -1,7 +1,9 @@
-// An alert as a QMessageBox.
+// The framework's alerts as message boxes: on their own, or as sheets of a window.
 
 #ifndef WRENVALE_DESKTOP_QT_ALERTS_ALERTBOX_H
 #define WRENVALE_DESKTOP_QT_ALERTS_ALERTBOX_H
+
+#include <functional>
 
 #include <QMessageBox>
 
@@ -33,6 +35,13 @@ private:
   QPushButton* other_ = nullptr;
   QPushButton* alternate_ = nullptr;
 };
+
+/// Shows `alert` modal to `window` and returns; the caller keeps owning both. `ended` is called
+/// once on the main thread, with the result that QMessageBox::finished() tells; with 0 when the
+/// alert goes unanswered: destroyed, or taken along by a window that is hidden, closed or deleted
+/// or by a host that quits. Without a window the alert is modal to the whole application. What
+/// `ended` throws is dropped. Main thread only.
+void beginSheet(QMessageBox& alert, QWidget* window, std::function<void(int)> ended);
 
 } // namespace wrenvale::platform
 

@@ -5,7 +5,7 @@
 #include <QColor>
 #include <QMessageBox>
 
-#include "desktop/qt/alerts/SheetAlert.h"
+#include "desktop/qt/alerts/AlertBox.h"
 
 namespace wrenvale {
 

@@ -2,8 +2,6 @@
 // since background threads may still use them while the process ends.
 
 #include "desktop/Modules.h"
-#include "desktop/NetModule.h"
-#include "desktop/WebViewModule.h"
 #include "desktop/qt/app/LaunchEvent.h"
 #include "desktop/qt/app/QtApplication.h"
 #include "desktop/qt/app/QtMenus.h"

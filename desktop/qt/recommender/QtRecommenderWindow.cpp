@@ -7,7 +7,6 @@
 #include <ui_Recommender.h>
 
 #include "desktop/qt/alerts/AlertBox.h"
-#include "desktop/qt/alerts/SheetAlert.h"
 #include "desktop/qt/app/Toolkit.h"
 #include "desktop/qt/recommender/WebViewModuleLoader.h"
 

@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "desktop/WebViewModule.h"
+#include "desktop/Modules.h"
 
 namespace wrenvale::platform {
 

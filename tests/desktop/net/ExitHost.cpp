@@ -13,7 +13,7 @@
 #include <string_view>
 #include <thread>
 
-#include "desktop/NetModule.h"
+#include "desktop/Modules.h"
 #include "platform/Net.h"
 
 using namespace wrenvale::platform;

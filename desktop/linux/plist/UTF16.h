@@ -1,7 +1,7 @@
 // The UTF-16 (most significant byte first) of binary property lists.
 
-#ifndef WRENVALE_DESKTOP_LINUX_SYSTEM_UNICODE_H
-#define WRENVALE_DESKTOP_LINUX_SYSTEM_UNICODE_H
+#ifndef WRENVALE_DESKTOP_LINUX_PLIST_UTF16_H
+#define WRENVALE_DESKTOP_LINUX_PLIST_UTF16_H
 
 #include <optional>
 #include <string>

@@ -1,4 +1,4 @@
-#include "desktop/linux/system/Unicode.h"
+#include "desktop/linux/plist/UTF16.h"
 
 #include <algorithm>
 #include <cstddef>
