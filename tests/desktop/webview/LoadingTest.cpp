@@ -1,8 +1,5 @@
 // What counts as a page, and what as a failure to fetch one.
 
-#include <csignal>
-
-#include "Processes.h"
 #include "WebViewFixture.h"
 
 namespace wrenvale::platform {
@@ -139,19 +136,6 @@ TEST_F(LoadingTest, APageMayFailToGoOn) {
     EXPECT_TRUE(waitFor("done")) << nothing;
     EXPECT_EQ(failures(), 0) << nothing;
   }
-}
-
-TEST_F(LoadingTest, APageWhoseProcessEndsHasFailed) {
-  site_.page("/", kScript);
-  load("/");
-  ASSERT_TRUE(waitFor("done"));
-  ASSERT_FALSE(renderers().empty());
-  for (const auto process : renderers())
-    kill(process, SIGKILL);
-  EXPECT_TRUE(waitFor("fail"));
-  EXPECT_EQ(failures(), 1);
-  EXPECT_EQ(delegate_.advice, "") << "for the connection is not to blame";
-  EXPECT_FALSE(hasScriptObject());
 }
 
 // That is how a page tells the newsletter window, which is there before it, from the welcome

@@ -32,8 +32,7 @@ inline bool waitUntil(const std::function<bool()>& condition,
   QElapsedTimer time;
   bool holds = condition();
   QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
-    holds = condition();
-    if (holds || time.hasExpired(patience.count())) loop.quit();
+    if ((holds = condition()) || time.hasExpired(patience.count())) loop.quit();
   });
   time.start();
   poll.start(5);
@@ -41,7 +40,7 @@ inline bool waitUntil(const std::function<bool()>& condition,
   return holds;
 }
 
-/// Pages by their paths; what is not there is 404 with a page of its own.
+/// Pages by their paths; what is not there is 404 with a page of its own, and /hang never answers.
 class Site {
 public:
   using Script = LoopbackServer::Script;
@@ -62,10 +61,9 @@ public:
   }
   /// The heads of the requests for this path, in lower case.
   std::vector<std::string> heads(const std::string& path) const {
-    std::vector<std::string> result;
-    for (const auto& head : server_.requests())
-      if (head.starts_with("get " + path + " ")) result.push_back(head);
-    return result;
+    auto heads = server_.requests();
+    std::erase_if(heads, [&](auto& head) { return !head.starts_with("get " + path + " "); });
+    return heads;
   }
 
   static constexpr const char* kHTML = "Content-Type: text/html; charset=utf-8\r\n";
@@ -74,13 +72,14 @@ private:
   Script scriptFor(const std::string& head) {
     const auto path = head.empty() ? head : head.substr(4, head.find(' ', 4) - 4);
     const std::lock_guard lock(mutex_);
-    const auto found = scripts_.find(path);
-    if (found != scripts_.end()) return found->second;
-    return [](auto& client) { client.send(answerWith("<p>Nothing", "404 Not Found", kHTML)); };
+    return scripts_[scripts_.contains(path) ? path : "nothing"];
   }
 
   std::mutex mutex_;
-  std::map<std::string, Script> scripts_;
+  std::map<std::string, Script> scripts_ = {
+      {"/hang", [](auto& client) { client.hang(); }},
+      {"nothing",
+       [](auto& client) { client.send(answerWith("<p>Nothing", "404 Not Found", kHTML)); }}};
   LoopbackServer server_{[this](auto& client) { scriptFor(client.head())(client); }};
 };
 
@@ -110,14 +109,12 @@ public:
     advice = error.advice;
     if (onFail) onFail();
   }
-  void windowWillClose() override {
-    calls.push_back("close");
-    if (onClose) onClose();
-  }
+  void windowWillClose() override { calls.push_back("close"); }
 
-  bool has(std::string_view call) const {
-    return std::find(calls.begin(), calls.end(), call) != calls.end();
+  std::size_t count(std::string_view call) const {
+    return static_cast<std::size_t>(std::ranges::count(calls, call));
   }
+  bool has(std::string_view call) const { return count(call) > 0; }
 
   static std::string text(const Value& value) {
     if (const auto* boolean = value.boolean()) return *boolean ? "true" : "false";
@@ -130,7 +127,7 @@ public:
 
   std::vector<std::string> calls;
   std::string advice; // of the latest failure
-  std::function<void()> onClear, onFail, onClose;
+  std::function<void()> onClear, onFail;
   std::function<std::optional<Value>(std::string_view)> onInvoke;
   std::function<PolicyDecision(const NavigationAction&)> onDecide;
 };
@@ -196,8 +193,8 @@ protected:
 
   Site site_;
   PageDelegate delegate_;
-  std::vector<ScriptMethod> methods_ = {{"log", 1},  {"pair:", 2}, {"give", 0},
-                                        {"done", 0}, {"act", 0},   {"setWidth:height", 2}};
+  std::vector<ScriptMethod> methods_ = {
+      {"log", 1}, {"pair:", 2}, {"give", 0}, {"done", 0}, {"act", 0}};
   std::unique_ptr<RecommenderWindow> window_;
 };
 
