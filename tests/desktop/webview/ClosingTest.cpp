@@ -61,15 +61,11 @@ TEST_F(ClosingTest, FromInsideAnyCall) {
     for (const std::string moment : {"go 5", "clear", "log,0", "act", "log,29", "done", "fail"}) {
       SCOPED_TRACE(way + (" at " + moment));
       std::size_t calls = 0;
-      const auto act = [&, go = go] {
-        if (!window_ || calls > 0 || !delegate_.calls.back().starts_with(moment)) return;
+      onCall([&, go = go](const std::string& call) {
+        if (!window_ || calls > 0 || !call.starts_with(moment)) return;
         calls = delegate_.calls.size();
         go();
-      };
-      delegate_.onClear = [&] { publish(), act(); };
-      delegate_.onInvoke = [&](std::string_view) { return act(), Value(); };
-      delegate_.onDecide = [&](const NavigationAction&) { return act(), PolicyDecision::kUse; };
-      delegate_.onFail = act;
+      });
       load(moment == "fail" ? "/none" : "/");
       EXPECT_TRUE(waitUntil([&] { return calls > 0; }));
       waitUntil([] { return renderers().empty(); });

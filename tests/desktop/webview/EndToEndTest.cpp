@@ -28,8 +28,10 @@ constexpr const char* kPage = R"(<!DOCTYPE html><meta charset=utf-8><body><scrip
 // Over the in-memory platform, but for the window, which is real.
 class EndToEndTest : public WelcomeTest {
 protected:
-  void open(BuildConfiguration configuration = {}) {
+  void open(bool bridgeIsVendors = false) {
     fake.locale.country = "US";
+    BuildConfiguration configuration;
+    configuration.bridgeIsVendors = bridgeIsVendors;
     configuration.vendorBase = site.url("");
     here = std::make_unique<Endpoints>(configuration);
     start();
@@ -88,9 +90,7 @@ TEST_F(EndToEndTest, OnlyTheMakersPagesReachTheHost) {
   site.page(kPath, "<script>fetch('/maker-has-' + typeof Recommender).then(() => location = '" +
                        site.url("/other", "localhost") + "')</script>");
   for (const bool isVendors : {false, true}) {
-    BuildConfiguration configuration;
-    configuration.bridgeIsVendors = isVendors;
-    open(configuration);
+    open(isVendors);
     const std::string other = isVendors ? "/other-has-undefined" : "/other-has-object";
     EXPECT_TRUE(turnUntil([&] { return !site.heads(other).empty(); })) << isVendors;
     EXPECT_EQ(site.heads("/maker-has-object").size(), isVendors ? 2U : 1U);

@@ -79,14 +79,11 @@ TEST_F(NavigationTest, IsAskedAboutWithItsReason) {
   for (const auto& row : rows) {
     site_.page("/", std::string(kPage) + "<script>function run() {" + row.script + "}</script>");
     bool began = false;
-    delegate_.onInvoke = [&](std::string_view name) {
-      if (name == "act") began = true, delegate_.calls.clear();
-      return Value();
-    };
-    delegate_.onDecide = [&](const NavigationAction& action) {
-      return began && action.url != site_.url("/redirected") ? PolicyDecision::kIgnore
-                                                             : PolicyDecision::kUse;
-    };
+    onCall([&](const std::string& call) {
+      if (call == "act") began = true, delegate_.calls.clear();
+      const bool isAsked = began && !call.ends_with("/redirected");
+      delegate_.decision = isAsked ? PolicyDecision::kIgnore : PolicyDecision::kUse;
+    });
     load("/");
     EXPECT_TRUE(waitFor("done")) << row.script;
     EXPECT_EQ(asked(), row.asked) << row.script;
@@ -98,9 +95,9 @@ TEST_F(NavigationTest, IsAskedAboutThePastToo) {
   site_.page("/", "<script>onload = () => setTimeout(() => location = '/second')</script>");
   site_.page("/second", "<script>onload = () => { history.back();"
                         " setTimeout(() => Recommender.done(), 150) }</script>");
-  delegate_.onDecide = [](const NavigationAction& action) {
-    return action.type == NavigationType::kOther ? PolicyDecision::kUse : PolicyDecision::kIgnore;
-  };
+  onCall([&](const std::string& call) {
+    if (call.starts_with("go 2")) delegate_.decision = PolicyDecision::kIgnore;
+  });
   load("/");
   ASSERT_TRUE(waitFor("done"));
   EXPECT_THAT(asked(), testing::ElementsAre("go 5 /", "go 5 /second", "go 2 /"));
@@ -130,29 +127,28 @@ TEST_F(NavigationTest, ClicksOfAPersonLeave) {
        "go 1 mailto:a@b.example?"},
       {"<form target=_blank action=/sent onsubmit='submit(); return false'><button formaction=/no>",
        "go 1 /sent?"},
-      {"<div id=host></div><script>host.attachShadow({mode: 'open'}).innerHTML = "
-       "`<style>*{font:inherit}</style><form target=_blank action=/sent><button>Link`</script>",
+      {"<script>shadow('open', `<style>*{font:inherit}</style><form target=_blank "
+       "action=/sent><button>Link`)"
+       "</script>",
        "go 1 /sent?"},
-      {"<div id=host></div><script>host.attachShadow({mode: 'closed'}).innerHTML = "
-       "`<a href=/linked>Link`</script>",
-       "go 0 /linked"},
-      {"<div id=host></div><script>host.attachShadow({mode: 'closed'}).innerHTML = "
-       "`<a href=#inside>Link`</script>",
-       "go 0 /#inside"},
+      {"<script>shadow('closed', '<a href=/linked>Link')</script>", "go 0 /linked"},
+      {"<script>shadow('closed', '<a href=#inside>Link')</script>", "go 0 /#inside"},
       {"<form action=/linked onsubmit='new FormData(this); return false' "
        "onclick='setTimeout(() => window.open(\"/linked\"), 50)'><button>",
        "go 0 /linked"},
   };
   for (const auto& row : rows) {
     site_.page("/", "<!DOCTYPE html><body style='margin:0;font-size:300px'>"
-                    "<style>button{font:inherit}</style>" +
+                    "<style>button{font:inherit}</style><div id=host></div><script>const shadow ="
+                    " (mode, html) => host.attachShadow({mode}).innerHTML = html</script>" +
                         std::string(row.link) +
                         "Link<script>onload = () => requestAnimationFrame(() => "
                         "requestAnimationFrame(() => Recommender.done()))</script>");
+    delegate_.decision = PolicyDecision::kUse;
     load("/");
     WebViewTest::show();
     ASSERT_TRUE(waitFor("done"));
-    delegate_.onDecide = [](const NavigationAction&) { return PolicyDecision::kIgnore; };
+    delegate_.decision = PolicyDecision::kIgnore;
     auto* view = widget()->findChild<QWidget*>("webView");
     const auto clicked = [&] {
       QTest::mouseClick(view->focusProxy(), row.button, row.keys, {100, 150});
@@ -160,7 +156,6 @@ TEST_F(NavigationTest, ClicksOfAPersonLeave) {
     };
     EXPECT_TRUE(clicked() || clicked()) << row.link; // the first may come before there is a frame
     EXPECT_EQ(asked().back(), row.asked) << row.link;
-    delegate_.onDecide = nullptr;
   }
 }
 

@@ -13,6 +13,7 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QPointer>
@@ -29,15 +30,14 @@ inline bool waitUntil(const std::function<bool()>& condition,
                       std::chrono::milliseconds patience = std::chrono::seconds(20)) {
   QEventLoop loop;
   QTimer poll;
-  QElapsedTimer time;
-  bool holds = condition();
-  QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
-    if ((holds = condition()) || time.hasExpired(patience.count())) loop.quit();
-  });
-  time.start();
+  QObject::connect(&poll, &QTimer::timeout, &loop, &QEventLoop::quit);
   poll.start(5);
-  if (!holds) loop.exec();
-  return holds;
+  const QDeadlineTimer end(patience);
+  while (!condition()) {
+    if (end.hasExpired()) return false;
+    loop.exec();
+  }
+  return true;
 }
 
 /// Pages by their paths; what is not there is 404 with a page of its own, and /hang never answers.
@@ -83,59 +83,61 @@ private:
   LoopbackServer server_{[this](auto& client) { scriptFor(client.head())(client); }};
 };
 
-/// Writes down what the window reports; does what a test asks it to.
+/// Writes down what the window reports, and then does what a test asks it to.
 class PageDelegate : public RecommenderWindowDelegate {
 public:
   void didClearWindowObject(std::string_view origin) override {
-    calls.push_back("clear " + std::string(origin));
-    if (onClear) onClear();
+    note("clear " + std::string(origin));
   }
   std::optional<Value> invokeScriptMethod(std::string_view name,
                                           const std::vector<Value>& arguments) override {
     std::string call(name);
     for (const auto& argument : arguments)
       call += "," + text(argument);
-    calls.push_back(std::move(call));
-    return onInvoke ? onInvoke(name) : Value();
+    note(call);
+    return answer;
   }
   PolicyDecision decidePolicyForNavigationAction(const NavigationAction& action) override {
-    calls.push_back("go " + std::to_string(static_cast<int>(action.type)) + " " + action.url +
-                    (action.url == action.mainDocumentURL ? "" : " in " + action.mainDocumentURL));
-    return onDecide ? onDecide(action) : PolicyDecision::kUse;
+    note("go " + std::to_string(static_cast<int>(action.type)) + " " + action.url +
+         (action.url == action.mainDocumentURL ? "" : " in " + action.mainDocumentURL));
+    return decision;
   }
   void didFailProvisionalLoad(const LoadError& error, bool isMainFrame) override {
-    calls.push_back(isMainFrame ? "fail" : "fail in a frame");
     EXPECT_FALSE(error.description.empty());
     advice = error.advice;
-    if (onFail) onFail();
+    note(isMainFrame ? "fail" : "fail in a frame");
   }
-  void windowWillClose() override { calls.push_back("close"); }
+  void windowWillClose() override { note("close"); }
 
   std::size_t count(std::string_view call) const {
     return static_cast<std::size_t>(std::ranges::count(calls, call));
   }
   bool has(std::string_view call) const { return count(call) > 0; }
 
+  std::vector<std::string> calls;
+  std::string advice; // of the latest failure
+  std::optional<Value> answer = Value();
+  PolicyDecision decision = PolicyDecision::kUse;
+  std::function<void(const std::string& call)> onCall;
+
+private:
+  void note(const std::string& call) {
+    calls.push_back(call);
+    if (onCall) onCall(call);
+  }
   static std::string text(const Value& value) {
     if (const auto* boolean = value.boolean()) return *boolean ? "true" : "false";
     if (const auto* integer = value.integer()) return std::to_string(*integer);
     if (const auto* real = value.real()) return "real " + std::to_string(*real);
-    if (const auto* text = value.string())
-      return text->size() < 200 ? *text : std::to_string(text->size()) + " bytes";
-    return "null";
+    const auto text = value.string() ? *value.string() : "null";
+    return text.size() < 200 ? text : std::to_string(text.size()) + " bytes";
   }
-
-  std::vector<std::string> calls;
-  std::string advice; // of the latest failure
-  std::function<void()> onClear, onFail;
-  std::function<std::optional<Value>(std::string_view)> onInvoke;
-  std::function<PolicyDecision(const NavigationAction&)> onDecide;
 };
 
 class WebViewTest : public testing::Test {
 protected:
   WebViewTest() {
-    delegate_.onClear = [this] { publish(); };
+    onCall([](auto&) {});
   }
   ~WebViewTest() override {
     window_.reset();
@@ -152,6 +154,13 @@ protected:
   void show() {
     window_->revealWebView();
     window_->makeKeyAndOrderFront();
+  }
+  /// Has this done at each call of the delegate's, when the page has got its object.
+  void onCall(const std::function<void(const std::string& call)>& act) {
+    delegate_.onCall = [this, act](const std::string& call) {
+      if (call.starts_with("clear")) publish();
+      act(call);
+    };
   }
   void publish() { window_->webView()->setScriptObject("Recommender", methods_); }
   bool hasScriptObject() const {
