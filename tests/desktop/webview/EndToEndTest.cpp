@@ -13,18 +13,6 @@ namespace {
 using platform::waitUntil;
 
 constexpr const char* kPath = "/store/newsletter/index_us.html";
-constexpr const char* kPage = R"(<!DOCTYPE html><meta charset=utf-8><body><script>
-  function setRecommendations(text) {
-    const names = JSON.parse(text).map(each => each.name);
-    Recommender['setWidth:height'](500, 300);
-    Recommender.showWindow();
-    fetch('/seen?' + [names.join('+'), Recommender.appName(), Recommender.bundleVersion(),
-          Recommender.updating(), Recommender.subscribe('ann@b.de'),
-          Recommender.checkSelector('javascript_setWidth:height:')].join());
-  }
-  Recommender.ready();
-</script>)";
-
 // Over the in-memory platform, but for the window, which is real.
 class EndToEndTest : public WelcomeTest {
 protected:
@@ -63,7 +51,17 @@ protected:
 };
 
 TEST_F(EndToEndTest, ThePageGetsItsListAndIsShown) {
-  site.page(kPath, kPage);
+  site.page(kPath, R"(<!DOCTYPE html><meta charset=utf-8><body><script>
+  function setRecommendations(text) {
+    const names = JSON.parse(text).map(each => each.name);
+    Recommender['setWidth:height'](500, 300);
+    Recommender.showWindow();
+    fetch('/seen?' + [names.join('+'), Recommender.appName(), Recommender.bundleVersion(),
+          Recommender.updating(), Recommender.subscribe('ann@b.de'),
+          Recommender.checkSelector('javascript_setWidth:height:')].join());
+  }
+  Recommender.ready();
+</script>)");
   open();
   QWidget& window = *top("Recommender");
   EXPECT_FALSE(window.isVisible());

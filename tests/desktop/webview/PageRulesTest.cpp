@@ -40,51 +40,25 @@ protected:
   }
 };
 
-// What the rows below ask with. A frame whose page may not be looked at has got one.
-constexpr const char* kAsk = R"(<!DOCTYPE html><body><script>
-const image = url => new Promise((yes, no) => {
-  const i = new Image; i.onload = () => yes('loaded'); i.onerror = () => no('no image'); i.src = url; });
-const frame = url => new Promise(yes => {
-  const f = document.createElement('iframe'); f.src = url; document.body.append(f);
-  setTimeout(() => yes(f.contentDocument ? f.contentDocument.URL : 'loaded'), 200); });
-const answer = (row, request) => request().then(v => '' + v, e => e.name || '' + e)
-  .then(v => Recommender.log(row + ':' + v));
-</script><script>)";
-
 TEST_F(PageRulesTest, RequestsAreRefused) {
   ASSERT_TRUE(QFile::exists(":/qt-project.org/qmessagebox/images/qtlogo-64.png"));
-  const struct {
-    const char* request;
-    const char* result;
-  } rows[] = {
-      {"Notification.requestPermission()", "denied"},
-      {"new Promise((yes, no) => navigator.geolocation.getCurrentPosition(yes, e => no(e.code)))",
-       "1"},
-      {"navigator.mediaDevices.getUserMedia({audio: true})", "NotAllowedError|NotFoundError"},
-      {"navigator.mediaDevices.getDisplayMedia({video: true})",
-       "NotAllowedError|InvalidStateError|NotFoundError"},
-      {"document.body.requestFullscreen()", "TypeError"},
-      {"navigator.clipboard.readText()", "NotAllowedError"},
-      {"document.execCommand('paste')", "false"},
-      {"navigator.registerProtocolHandler('web+x', '/?%s')", "undefined"},
-      {"window.showOpenFilePicker()", "SecurityError|TypeError"},
-      {"fetch('file:///etc/hostname')", "TypeError"},
-      {"image('file:///usr/share/pixmaps/x.png')", "no image"},
-      {"image('qrc:/qt-project.org/qmessagebox/images/qtlogo-64.png')", "no image"},
-      {"frame('qrc:/qt-project.org/qmessagebox/images/qtlogo-64.png')", "about:blank"},
-      {"!!document.createElement('canvas').getContext('webgl')", "false"},
-      {"navigator.serviceWorker.register('/worker.js')", "SecurityError|TypeError"},
-  };
-  std::string page = kAsk;
-  for (const auto& row : rows)
-    page += "answer(" + std::to_string(&row - rows) + ", async () => " + row.request + ");\n";
-  site_.page("/", page + "</script>");
+  site_.page("/", R"(<!DOCTYPE html><body><script>
+    const picture = 'qrc:/qt-project.org/qmessagebox/images/qtlogo-64.png';
+    const image = url => new Promise(yes => {
+      const i = new Image; i.onload = () => yes('loaded'); i.onerror = () => yes('no image');
+      i.src = url; });
+    const frame = url => new Promise(yes => {
+      const f = document.createElement('iframe'); f.src = url; document.body.append(f);
+      setTimeout(() => yes(f.contentDocument ? f.contentDocument.URL : 'loaded'), 200); });
+    Promise.all([
+      Notification.requestPermission(),
+      new Promise(yes => navigator.geolocation.getCurrentPosition(yes, e => yes(e.code))),
+      document.execCommand('paste'), !!document.createElement('canvas').getContext('webgl'),
+      fetch('file:///etc/hostname').catch(e => e.name), image(picture), frame(picture),
+    ]).then(all => Recommender.log(all.join()));</script>)");
   load("/");
-  waitUntil([&] { return told().size() == std::size(rows); }, std::chrono::seconds(5));
-  for (const auto& row : rows) {
-    const auto answer = std::to_string(&row - rows) + ":(" + row.result + ")";
-    EXPECT_THAT(told(), testing::Contains(testing::MatchesRegex(answer))) << row.request;
-  }
+  waitUntil([&] { return !told().empty(); }, std::chrono::seconds(5));
+  EXPECT_THAT(told(), testing::ElementsAre("denied,1,false,false,TypeError,no image,about:blank"));
 }
 
 // Without a click. The engine drops keys in a page's first half second.
@@ -92,11 +66,9 @@ TEST_F(PageRulesTest, AShownPageHasTheKeyboard) {
   show("<input id=field><script>field.focus()</script>");
   window_->makeKeyAndOrderFront();
   EXPECT_TRUE(becomes("document.hasFocus()", "true"));
-  window_->beginSheet({.title = "Photo Tool",
-                       .messageText = "Thank you",
-                       .informativeText = {},
-                       .defaultButton = "Ok"},
-                      [](int) {});
+  window_->beginSheet(
+      {.title = "", .messageText = "Well?", .informativeText = "", .defaultButton = "Ok"},
+      [](int) {});
   EXPECT_TRUE(becomes("document.hasFocus()", "false"));
   ASSERT_TRUE(QApplication::activeModalWidget());
   QApplication::activeModalWidget()->close();

@@ -16,7 +16,6 @@
 #include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QEventLoop>
-#include <QPointer>
 #include <QTest>
 #include <QTimer>
 
@@ -169,12 +168,8 @@ protected:
   }
   /// Has a new window run this script in a page of its own, to its end.
   bool run(const std::string& script) {
-    site_.page("/", "<!DOCTYPE html><title>Test</title><body><script>\n"
-                    "const tell = (...values) => values.forEach(v => Recommender.log(v));\n"
-                    "try {" +
-                        script +
-                        "\n} catch (error) { tell('' + error); }\n"
-                        "</script><script>Recommender.done();</script>");
+    site_.page("/", "<script>const tell = value => Recommender.log(value);\ntry {" + script +
+                        "} catch (error) { tell('' + error) }\nRecommender.done()</script>");
     load("/");
     return waitFor("done");
   }
