@@ -28,14 +28,13 @@ std::vector<pid_t> renderers() {
   return result;
 }
 
-constexpr const char* kBusyPage =
-    "<script>onload = () => { Recommender.act(); location = '/next' }; for (let i = 0; i < 30; ++i)"
-    " Recommender.log(i)</script><iframe src='/next'></iframe>";
-
 class ClosingTest : public WebViewTest {
 protected:
   ClosingTest() {
-    site_.page("/", kBusyPage);
+    site_.page(
+        "/",
+        "<script>onload = () => { Recommender.act(); location = '/next' };"
+        "for (let i = 0; i < 30; ++i) Recommender.log(i)</script><iframe src='/next'></iframe>");
     site_.page("/next", "<script>Recommender.done()</script>");
     site_.answer("/none", "");
   }
@@ -60,16 +59,16 @@ TEST_F(ClosingTest, FromInsideAnyCall) {
   for (const auto& [way, go] : ways_)
     for (const std::string moment : {"go 5", "clear", "log,0", "act", "log,29", "done", "fail"}) {
       SCOPED_TRACE(way + (" at " + moment));
-      std::size_t calls = 0;
+      std::ptrdiff_t calls = 0;
       onCall([&, go = go](const std::string& call) {
         if (!window_ || calls > 0 || !call.starts_with(moment)) return;
-        calls = delegate_.calls.size();
+        calls = std::ssize(delegate_.calls);
         go();
       });
       load(moment == "fail" ? "/none" : "/");
       EXPECT_TRUE(waitUntil([&] { return calls > 0; }));
       waitUntil([] { return renderers().empty(); });
-      EXPECT_LE(delegate_.calls.size(), calls + delegate_.count("close"));
+      EXPECT_LE(std::ssize(delegate_.calls), calls + delegate_.count("close"));
       window_.reset();
       EXPECT_TRUE(hasNoWindow());
     }

@@ -5,6 +5,8 @@
 namespace wrenvale::platform {
 namespace {
 
+using namespace std::string_literals;
+
 constexpr const char* kScript = "<script>Recommender.done()</script>";
 constexpr const char* kNoContent = "HTTP/1.1 204 No Content\r\n\r\n";
 constexpr const char* kDownload = "HTTP/1.1 200 OK\r\nContent-Type: application/zip\r\n\r\nPK";
@@ -53,7 +55,7 @@ TEST_F(LoadingTest, APageIsWhateverBegins) {
     load("/page");
     EXPECT_TRUE(waitUntil([&] { return failures() > 0 || hasBegun(); })) << row.what;
     waitUntil([] { return false; }, std::chrono::milliseconds(50)); // for what else may come
-    EXPECT_EQ(failures(), row.isPage ? 0U : 1U) << row.what;
+    EXPECT_EQ(failures(), row.isPage ? 0 : 1) << row.what;
     EXPECT_EQ(hasBegun(), row.isPage) << row.what;
     if (row.isPage) {
       EXPECT_EQ(site_.heads("/page").size() - before, 1U) << row.what << ", asked for once";
@@ -63,13 +65,10 @@ TEST_F(LoadingTest, APageIsWhateverBegins) {
 
 TEST_F(LoadingTest, AddressesThatLeadNowhereFail) {
   const std::string closed = [] { return LoopbackServer(std::string()).url(); }();
-  for (const auto& url : {closed, site_.url("/hang"), std::string("file:///etc/hostname"),
-                          std::string("nonsense"), std::string()}) {
-    delegate_.calls.clear();
-    window_ = windows().makeRecommenderWindow(delegate_);
-    window_->loadRequest({.url = url, .applicationName = {}, .timeout = std::chrono::seconds(1)});
+  for (const std::string& url : {closed, "/hang"s, "file:///etc/hostname"s, "nonsense"s, ""s}) {
+    load(url, std::chrono::seconds(1));
     EXPECT_TRUE(waitFor("fail")) << url;
-    EXPECT_EQ(failures(), 1U) << url;
+    EXPECT_EQ(failures(), 1) << url;
     EXPECT_THAT(delegate_.advice, testing::StartsWith("Check the connection")) << url;
     EXPECT_FALSE(hasScriptObject()) << url;
   }
@@ -84,8 +83,8 @@ TEST_F(LoadingTest, APageMayLeadNowhere) {
         "<script>setTimeout(() => location = 'http://127.0.0.1:1/')</script>"}) {
     site_.page("/", page);
     load("/", std::chrono::seconds(1));
-    EXPECT_TRUE(waitUntil([&] { return failures() > 0; }, std::chrono::seconds(5))) << page;
-    EXPECT_EQ(failures(), 1U) << page;
+    EXPECT_TRUE(waitFor("fail")) << page;
+    EXPECT_EQ(failures(), 1) << page;
     EXPECT_TRUE(hasBegun()) << page;
   }
 }
@@ -108,7 +107,7 @@ TEST_F(LoadingTest, APageThatHasBegunIsThere) {
   for (const char* path : {"/", "/nothing-next", "/zip-next"}) {
     load(path, std::chrono::seconds(1));
     EXPECT_TRUE(waitFor("done")) << path;
-    EXPECT_EQ(failures(), 0U) << path;
+    EXPECT_EQ(failures(), 0) << path;
   }
 }
 

@@ -11,10 +11,7 @@ using Told = std::vector<std::string>;
 class ScriptObjectTest : public WebViewTest {};
 
 TEST_F(ScriptObjectTest, TakesValuesOverAsTheyAre) {
-  const struct {
-    const char* argument;
-    const char* value;
-  } rows[] = {
+  const std::pair<std::string, const char*> rows[] = {
       {"true", "true"},
       {"-9223372036854775808", "-9223372036854775808"},
       {"9223372036854775808", "real 9223372036854775808.000000"},
@@ -33,9 +30,9 @@ TEST_F(ScriptObjectTest, TakesValuesOverAsTheyAre) {
   };
   std::string script;
   Told expected;
-  for (const auto& row : rows) {
-    script += "tell(" + std::string(row.argument) + ");\n";
-    expected.push_back(row.value);
+  for (const auto& [argument, value] : rows) {
+    script += "tell(" + argument + ");\n";
+    expected.push_back(value);
   }
   ASSERT_TRUE(run(script));
   EXPECT_EQ(told(), expected);

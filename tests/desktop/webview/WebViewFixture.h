@@ -108,9 +108,7 @@ public:
   }
   void windowWillClose() override { note("close"); }
 
-  std::size_t count(std::string_view call) const {
-    return static_cast<std::size_t>(std::ranges::count(calls, call));
-  }
+  auto count(std::string_view call) const { return std::ranges::count(calls, call); }
   bool has(std::string_view call) const { return count(call) > 0; }
 
   std::vector<std::string> calls;
@@ -143,12 +141,13 @@ protected:
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
 
-  /// Has a new window load this page of the site's.
+  /// Has a new window load this page of the site's, or from elsewhere.
   void load(const std::string& path, std::chrono::seconds timeout = std::chrono::seconds(20)) {
     delegate_.calls.clear();
     window_ = windows().makeRecommenderWindow(delegate_);
-    window_->loadRequest(
-        {.url = site_.url(path), .applicationName = "Photo%20Tool/120 (null)", .timeout = timeout});
+    window_->loadRequest({.url = path.starts_with('/') ? site_.url(path) : path,
+                          .applicationName = "Photo%20Tool/120 (null)",
+                          .timeout = timeout});
   }
   void show() {
     window_->revealWebView();
