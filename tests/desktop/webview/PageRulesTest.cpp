@@ -7,21 +7,10 @@
 namespace wrenvale::platform {
 namespace {
 
+const std::string kTell = "<script>var tell = code => Recommender.log(eval(code))</script>";
+
 class PageRulesTest : public WebViewTest {
 protected:
-  QWidget& view() { return *widget()->findChild<QWidget*>("webView")->focusProxy(); }
-
-  /// Has the window show a page, until there is a frame of it.
-  void show(const std::string& body) {
-    site_.page("/", "<!DOCTYPE html><body style='margin:0;font:40px monospace'>" + body +
-                        "<script>let releases = 0; onmouseup = () => ++releases;"
-                        "var tell = code => Recommender.log(eval(code));"
-                        "onload = () => requestAnimationFrame(() => requestAnimationFrame("
-                        "() => setTimeout(() => Recommender.done(), 50)))</script>");
-    load("/");
-    WebViewTest::show();
-    ASSERT_TRUE(waitFor("done"));
-  }
   void drag(QPoint from, QPoint to) {
     QTest::mousePress(&view(), Qt::LeftButton, {}, from);
     for (int step = 1; step <= 5; ++step)
@@ -63,7 +52,7 @@ TEST_F(PageRulesTest, RequestsAreRefused) {
 
 // Without a click. The engine drops keys in a page's first half second.
 TEST_F(PageRulesTest, AShownPageHasTheKeyboard) {
-  show("<input id=field><script>field.focus()</script>");
+  show("<input id=field><script>field.focus()</script>" + kTell);
   window_->makeKeyAndOrderFront();
   EXPECT_TRUE(becomes("document.hasFocus()", "true"));
   window_->beginSheet(
@@ -81,10 +70,12 @@ TEST_F(PageRulesTest, AShownPageHasTheKeyboard) {
 }
 
 TEST_F(PageRulesTest, OnlyWhatIsTypedCanBeSelectedAndNothingIsDragged) {
-  show("Text to select<br><input id=field value='a field' style='font:inherit'>"
+  show("<style>* { font: 40px monospace }</style>Text to select<br><input id=field value='a field'>"
        "<div id=rich contenteditable>rich text</div><a href='/linked'>A link to be dragged</a>"
        "<script>let drags = 0; ondragstart = ondragover = ondrop = () => ++drags;"
-       "const typed = () => field.value.slice(field.selectionStart, field.selectionEnd)</script>");
+       "let releases = 0; onmouseup = () => ++releases;"
+       "const typed = () => field.value.slice(field.selectionStart, field.selectionEnd)</script>" +
+       kTell);
   drag({10, 175}, {300, 300});
   drag({10, 20}, {300, 20});
   QTest::mouseClick(&view(), Qt::RightButton, {}, {10, 175});

@@ -149,10 +149,17 @@ protected:
                           .applicationName = "Photo%20Tool/120 (null)",
                           .timeout = timeout});
   }
-  void show() {
+  /// Has a new window show this page, until there is a frame of it.
+  void show(const std::string& body) {
+    site_.page("/", "<!DOCTYPE html><body style='margin:0'>" + body +
+                        "<script>onload = () => requestAnimationFrame(() => requestAnimationFrame("
+                        "() => setTimeout(() => Recommender.done(), 50)))</script>");
+    load("/");
     window_->revealWebView();
     window_->makeKeyAndOrderFront();
+    ASSERT_TRUE(waitFor("done"));
   }
+  static QWidget& view() { return *widget()->findChild<QWidget*>("webView")->focusProxy(); }
   /// Has this done at each call of the delegate's, when the page has got its object.
   void onCall(const std::function<void(const std::string& call)>& act) {
     delegate_.onCall = [this, act](const std::string& call) {
