@@ -1,7 +1,5 @@
 // The window and its page go at every moment, and take nothing with them.
 
-#include <unistd.h>
-
 #include <csignal>
 #include <filesystem>
 #include <fstream>

@@ -42,9 +42,8 @@ TEST_F(ScriptObjectTest, TakesValuesOverAsTheyAre) {
 TEST_F(ScriptObjectTest, HasItsMethodsAndNothingElse) {
   const std::optional<Value> results[] = {
       Value(), true, -7, std::string(3'000'000, 'x'), "\xC3\xA4\"\\\xE2\x80\xA8", {}, 2.5};
-  std::size_t next = 0;
-  onCall([&](const std::string& call) {
-    delegate_.answer = call == "give" ? results[next++] : Value();
+  onCall([&, next = results](const std::string& call) mutable {
+    delegate_.answer = call == "give" ? *next++ : Value();
   });
   ASSERT_TRUE(run(R"(
     const show = v => tell(typeof v + (typeof v == 'string' ? v.length : v));
@@ -52,13 +51,12 @@ TEST_F(ScriptObjectTest, HasItsMethodsAndNothingElse) {
     try { Recommender.give() } catch (e) { tell(e.constructor === TypeError) }
     show(Recommender.give());
     tell(Object.getOwnPropertyNames(Recommender).join());
-    for (const name of ['toString', '__proto__', 'pair'])
-      tell(typeof Recommender[name]);
+    tell(['toString', '__proto__', 'pair'].some(name => Recommender[name]));
     Recommender['pair:'](1); Recommender['pair:'](1, 2, 3);
     const { done: alone } = Recommender; alone.call(7);)"));
-  EXPECT_THAT(told(), ElementsAre("objectnull", "booleantrue", "number-7", "string3000000",
-                                  "string4", "true", "objectnull", "log,pair:,give,done,act",
-                                  "undefined", "undefined", "undefined"));
+  EXPECT_THAT(told(),
+              ElementsAre("objectnull", "booleantrue", "number-7", "string3000000", "string4",
+                          "true", "objectnull", "log,pair:,give,done,act", "false"));
   EXPECT_TRUE(delegate_.has("pair:,1,null") && delegate_.has("pair:,1,2"));
 }
 

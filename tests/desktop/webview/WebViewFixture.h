@@ -3,6 +3,8 @@
 #ifndef WRENVALE_TESTS_DESKTOP_WEBVIEW_WEBVIEWFIXTURE_H
 #define WRENVALE_TESTS_DESKTOP_WEBVIEW_WEBVIEWFIXTURE_H
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <functional>
 #include <map>
@@ -23,6 +25,9 @@
 #include "tests/desktop/net/LoopbackServer.h"
 
 namespace wrenvale::platform {
+
+/// The engine does not run as root otherwise.
+inline const bool kHasNoSandbox = geteuid() == 0 && qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
 
 /// Turns the event loop until `condition` holds; false when that took too long.
 inline bool waitUntil(const std::function<bool()>& condition,
