@@ -167,8 +167,10 @@ void Page::begin(const QUrl& url) {
 
 PolicyDecision Page::decide(const QUrl& url, platform::NavigationType type, bool isMainFrame) {
   const Call call(*this);
+  // A frame may ask before the engine has told the address of the page around it.
+  const QUrl page = this->url().isEmpty() ? awaited_ : this->url();
   return delegate_->decidePolicyForNavigationAction(
-      {.url = text(url), .mainDocumentURL = text(isMainFrame ? url : this->url()), .type = type});
+      {.url = text(url), .mainDocumentURL = text(isMainFrame ? url : page), .type = type});
 }
 
 bool Page::javaScriptPrompt(const QUrl& origin, const QString& message, const QString&,

@@ -11,188 +11,143 @@ using Told = std::vector<std::string>;
 class ScriptObjectTest : public WebViewTest {};
 
 TEST_F(ScriptObjectTest, TakesValuesOverAsTheyAre) {
-  const struct {
-    const char* argument;
-    const char* value;
-  } rows[] = {
-      {"null", "null"},
-      {"undefined", "null"},
+  const std::pair<std::string, const char*> rows[] = {
       {"true", "true"},
-      {"-0", "0"},
-      {"9007199254740991", "9007199254740991"},
       {"-9223372036854775808", "-9223372036854775808"},
       {"9223372036854775808", "real 9223372036854775808.000000"},
       {"2.5", "real 2.500000"},
       {"1e300 * 1e300", "null"},
-      {"NaN", "null"},
       {"'\\u00e4\\u2028\"\\\\\\u{1F600}'", "\xC3\xA4\xE2\x80\xA8\"\\\xF0\x9F\x98\x80"},
       {"'\\ud800'", "?"},
-      {"'1'", "1"},
-      {"''", ""},
       {"{toJSON: () => 'x', toString: () => 'x', valueOf: () => 1}", "null"},
       {"[1]", "null"},
-      {"new String('x')", "null"},
-      {"Symbol()", "null"},
-      {"5n", "null"},
-      {"document.body", "null"},
       {"'x'.repeat(10000000)", "10000000 bytes"},
       {"'\\u00e4'.repeat(9999)", "19998 bytes"},
+      // The page's own dialogs do nothing.
+      {"prompt('Name?', 'x')", "null"},
+      {"confirm('Sure?')", "false"},
+      {"alert('Well')", "null"},
   };
   std::string script;
   Told expected;
-  for (const auto& row : rows) {
-    script += "tell(" + std::string(row.argument) + ");\n";
-    expected.push_back(row.value);
+  for (const auto& [argument, value] : rows) {
+    script += "tell(" + argument + ");\n";
+    expected.push_back(value);
   }
   ASSERT_TRUE(run(script));
   EXPECT_EQ(told(), expected);
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
 }
 
-TEST_F(ScriptObjectTest, AnswersAndFails) {
+TEST_F(ScriptObjectTest, HasItsMethodsAndNothingElse) {
   const std::optional<Value> results[] = {
       Value(), true, -7, std::string(3'000'000, 'x'), "\xC3\xA4\"\\\xE2\x80\xA8", {}, 2.5};
-  std::size_t next = 0;
-  delegate_.onInvoke = [&](std::string_view name) {
-    return name == "give" ? results[next++] : Value();
-  };
+  onCall([&, next = results](const std::string& call) mutable {
+    delegate_.answer = call == "give" ? *next++ : Value();
+  });
   ASSERT_TRUE(run(R"(
     const show = v => tell(typeof v + (typeof v == 'string' ? v.length : v));
     for (let i = 0; i < 5; ++i) show(Recommender.give());
     try { Recommender.give() } catch (e) { tell(e.constructor === TypeError) }
-    show(Recommender.give());)"));
-  EXPECT_THAT(told(), ElementsAre("objectnull", "booleantrue", "number-7", "string3000000",
-                                  "string4", "true", "objectnull"));
+    show(Recommender.give());
+    tell(Object.getOwnPropertyNames(Recommender).join());
+    tell(['toString', '__proto__', 'pair'].some(name => Recommender[name]));
+    Recommender['pair:'](1); Recommender['pair:'](1, 2, 3);
+    const { done: alone } = Recommender; alone.call(7);)"));
+  EXPECT_THAT(told(),
+              ElementsAre("objectnull", "booleantrue", "number-7", "string3000000", "string4",
+                          "true", "objectnull", "log,pair:,give,done,act", "false"));
+  EXPECT_TRUE(delegate_.has("pair:,1,null") && delegate_.has("pair:,1,2"));
 }
 
-// The engine lets no call through then, and the page's handlers go on.
-TEST_F(ScriptObjectTest, IsQuietWhileThePageIsLeft) {
+// A page that is not given one has none, wherever it came from, and no page has what an earlier one
+// had. 127.0.0.1 and localhost are two. The engine lets no call through while a page is left, and
+// the page's handlers go on.
+TEST_F(ScriptObjectTest, IsEachPagesOwn) {
+  delegate_.onCall = [&](const std::string& call) {
+    if (call == "clear " + site_.url("/")) publish();
+  };
+  const std::string next = "<script>onload = () => setTimeout(() => location = '";
   site_.page("/", R"(<script>
-    for (const kind of ['beforeunload', 'pagehide', 'unload'])
-      addEventListener(kind, () => { name += kind + Recommender.log('x'.repeat(20000)) + ' ' });
-    onload = () => setTimeout(() => location = '/second')</script>)");
-  site_.page("/second", "<script>Recommender.log(name); Recommender.done()</script>");
+    let left = ''; for (const kind of ['beforeunload', 'pagehide', 'unload'])
+      addEventListener(kind, () => {
+        localStorage.left = left += kind + Recommender.log('x'.repeat(20000)) + ' ' })</script>)" +
+                      next + site_.url("/second", "localhost") + "')</script>");
+  site_.page("/second", next + site_.url("/third-") + "' + typeof Recommender)</script>");
+  site_.page("/third-undefined",
+             "<script>Recommender.log(localStorage.left); Recommender.done()</script>");
   load("/");
   ASSERT_TRUE(waitFor("done"));
   EXPECT_EQ(told(), Told{"beforeunloadnull pagehidenull unloadnull "});
 }
 
-TEST_F(ScriptObjectTest, HasItsMethodsAndNothingElse) {
-  ASSERT_TRUE(run(R"(
-    tell(Object.getOwnPropertyNames(Recommender).join());
-    Recommender.pair; Recommender['pair:'](1); Recommender['pair:'](1, 2, 3);
-    Recommender['setWidth:height'](640, 480);
-    Recommender['setWidth:height'](-1e18, 1e18);
-    for (const name of ['invoke', 'toString', 'constructor', '__proto__', 'pair', 'setWidth', 'Done'])
-      try { Recommender[name](); tell('called ' + name) } catch (e) { tell(e.name) }
-    const { done: alone } = Recommender; alone.call(7);)"));
-  Told expected(7, "TypeError");
-  expected.insert(expected.begin(), "log,pair:,give,done,act,setWidth:height");
-  EXPECT_EQ(told(), expected);
-  for (const char* call : {"pair:,1,null", "pair:,1,2", "setWidth:height,640,480",
-                           "setWidth:height,-1000000000000000000,1000000000000000000"})
-    EXPECT_TRUE(delegate_.has(call)) << call;
-}
-
-// Whatever a page replaces, calls stay what they are and their secret where it is.
+// Whatever a page replaces, calls stay what they are and their secret where it is: also when the
+// page opens its document anew.
 TEST_F(ScriptObjectTest, CannotBeTamperedWith) {
-  const struct {
-    const char* what;
-    const char* script;
-  } rows[] = {
-      {"the object", "Recommender = {log: 1}; delete window.Recommender; Recommender.log = null;"
-                     "Object.assign(Recommender, {x: 1}); tell('x' in Recommender)"},
-      {"strictly", "'use strict'; Object.defineProperty(window, 'Recommender', {value: 1})"},
-      {"a method", "Recommender.log.x = 1; Object.setPrototypeOf(Recommender, {x: 1})"},
-      {"prompt", "window.prompt = m => leak(m); "
-                 "Object.defineProperty(window, 'prompt', {value: m => leak(m)})"},
-      {"prompt's prototype", "Window.prototype.prompt = m => leak(m); delete window.prompt"},
-      {"JSON", "JSON.stringify = v => leak(v); JSON.parse = v => leak(v)"},
-      {"toJSON", "String.prototype.toJSON = Object.prototype.toJSON = Array.prototype.toJSON = "
-                 "function () { leak(this) }; tell({}), tell('')"},
-      {"strings",
-       "String.prototype.slice = String.prototype.startsWith = String.prototype.concat = "
-       "function (v) { leak(this) }; tell('x'.repeat(20000).length), tell('y'.repeat(20000))"},
-      {"arrays", "Array.prototype[0] = 'leak'; Array.prototype[Symbol.iterator] = "
-                 "function* () { leak(this) }; Recommender['pair:'](1)"},
-      {"functions", "Function.prototype.call = Function.prototype.apply = Reflect.apply = "
-                    "(...v) => leak(v); tell(1)"},
-      {"setters", "for (const key of ['token', 'name', 'methods', 'value', 'get', 'arguments'])"
-                  "  Object.defineProperty(Object.prototype, key, {get() {}, set(v) { leak(v) }})"},
-      {"its source", "tell(/[0-9a-f]{32}/.test('' + Recommender.log))"},
-      {"a document anew",
-       "window.leaked = leak; setTimeout(() => { document.open(); document.write("
-       "'<script>tell(typeof Recommender); Recommender.act()<\\/script>') })"},
-  };
-  for (const auto& row : rows) {
-    ASSERT_TRUE(run("window.leak = v => tell('leak ' + v);" + std::string(row.script))) << row.what;
-    EXPECT_THAT(told(), testing::Not(testing::Contains(testing::HasSubstr("leak ")))) << row.what;
-    EXPECT_THAT(told(), testing::Not(testing::Contains("true"))) << row.what;
-  }
-}
-
-TEST_F(ScriptObjectTest, PagesDialogsDoNothing) {
-  ASSERT_TRUE(run("tell(prompt('Name?', 'x'), confirm('Sure?'), alert('Well'), typeof print)"));
-  EXPECT_THAT(told(), ElementsAre("null", "false", "null", "function"));
-  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+  std::string script = "let leaks = 0; const leak = () => ++leaks;";
+  for (const char* each :
+       {"Recommender = {log: leak}; delete window.Recommender; Recommender.log = leak",
+        "Recommender.log.x = 1; Recommender.x = 1",
+        "Object.defineProperty(window, 'Recommender', {value: {log: leak}})",
+        "Object.defineProperty(Recommender, 'log', {value: leak})", "window.prompt = leak",
+        "delete window.prompt", "Object.defineProperty(window, 'prompt', {value: leak})",
+        "Window.prototype.prompt = leak", "JSON.stringify = JSON.parse = leak",
+        "String.prototype.toJSON = Object.prototype.toJSON = Array.prototype.toJSON = leak",
+        "String.prototype.slice = String.prototype.startsWith = String.prototype.concat = leak",
+        "Array.prototype[0] = 'leak'; Array.prototype[Symbol.iterator] = leak",
+        "Function.prototype.call = Function.prototype.apply = Reflect.apply = leak",
+        "['token', 'name', 'methods', 'value', 'get', 'arguments'].forEach(key =>"
+        " Object.prototype.__defineSetter__(key, leak))"})
+    script += "\ntry { " + std::string(each) + " } catch {}";
+  site_.page("/", "<script>" + script + R"(
+    Recommender.log('x'.repeat(20000)); Recommender['pair:']({}, '');
+    Recommender.log('x' in Recommender || 'x' in Recommender.log);
+    Recommender.log(/[0-9a-f]{32}/.test('' + Recommender.log));
+    setTimeout(() => {
+      document.open();
+      document.write('<script>Recommender.log(leaks); Recommender.done()<\/script>');
+    })</script>)");
+  load("/");
+  ASSERT_TRUE(waitFor("done"));
+  EXPECT_THAT(told(), ElementsAre("20000 bytes", "false", "false", "0"));
+  EXPECT_TRUE(delegate_.has("pair:,null,"));
 }
 
 // Frames of the page's own origin reach what is the page's; no frame gets an object of its own, and
 // none can ask as the page does.
 TEST_F(ScriptObjectTest, FramesGetNone) {
-  const std::string frame = R"(<script>
-    const results = [typeof Recommender, '' + prompt('x'.repeat(32) + 'w["done"]')];
-    parent.postMessage(results.join(), '*')</script>)";
+  const std::string frame = R"(<script>parent.postMessage(
+    typeof Recommender + prompt('x'.repeat(32) + 'w[\x22done\x22]'), '*')</script>)";
   site_.page("/frame", frame);
-  site_.page("/", R"(<!DOCTYPE html><script>
-    let count = 0;
-    onmessage = e => { Recommender.log(e.data); if (++count == 4) Recommender.done() };
-    </script><iframe src='/frame'></iframe>
-    <iframe src=')" + site_.url("/frame", "localhost") +
-                      R"('></iframe>
-    <iframe sandbox='allow-scripts allow-modals' src='/frame'></iframe>
-    <iframe srcdoc="<script>parent.postMessage([typeof Recommender, '' + prompt('x')].join(), '*')</script>"></iframe>)");
+  site_.page("/", R"(<script>let count = 0;
+    onmessage = e => { Recommender.log(e.data); if (++count == 4) Recommender.done() }</script>
+    <iframe sandbox='allow-scripts allow-modals' src='/frame'></iframe><iframe src='/frame'></iframe>
+    <iframe srcdoc=")" +
+                      frame + "\"></iframe><iframe src='" + site_.url("/frame", "localhost") +
+                      "'></iframe>");
   load("/");
   ASSERT_TRUE(waitFor("done"));
-  EXPECT_EQ(told(), Told(4, "undefined,null"));
+  EXPECT_EQ(told(), Told(4, "undefinednull"));
 }
 
 TEST_F(ScriptObjectTest, CallsThePage) {
-  site_.page("/", R"(<!DOCTYPE html><script>
-    function take(...values) { Recommender.log(JSON.stringify([values.length, ...values])) }
+  site_.page("/", R"(<script>
+    function take(...values) { Recommender.log(values.join('|')) }
     const notAFunction = 1; function fail() { throw new Error }
     Recommender.act();</script>)");
   load("/");
   EXPECT_FALSE(hasScriptObject());
   ASSERT_TRUE(waitFor("act"));
   EXPECT_TRUE(hasScriptObject());
+  auto& page = *window_->webView();
   const std::string text = "[\"</script>\\ \xE2\x80\xA8 %1 %2 \xF0\x9F\x98\x80\"]";
   for (const char* missing : {"missing", "notAFunction", "fail", "a\"b", "take()"})
-    window_->webView()->callWebScriptMethod(missing, {Value("x")});
-  window_->webView()->callWebScriptMethod("take", {});
-  window_->webView()->callWebScriptMethod("take", {Value(text), Value(), Value(true), Value(7)});
-  window_->webView()->callWebScriptMethod("take", {Value(std::string(300'000, 'x'))});
+    page.callWebScriptMethod(missing, {Value("x")});
+  page.callWebScriptMethod("take", {});
+  page.callWebScriptMethod("take", {Value(text), Value(), Value(true), Value(7)});
+  page.callWebScriptMethod("take", {Value(std::string(300'000, 'x'))});
   ASSERT_TRUE(waitUntil([&] { return told().size() == 3; }));
-  EXPECT_THAT(told(), ElementsAre("[0]", testing::HasSubstr("null,true,7]"), "300006 bytes"));
-}
-
-// A page that is not given one has none, and no page has what an earlier one had.
-TEST_F(ScriptObjectTest, IsEachPagesOwn) {
-  int pages = 0;
-  delegate_.onClear = [&] {
-    if (++pages != 2) publish();
-  };
-  const auto next = [](const std::string& path) {
-    return "<script>fetch('/is-' + typeof Recommender).then(() => location = '" + path +
-           "')</script>";
-  };
-  site_.page("/", next("/second"));
-  site_.page("/second", next("/third"));
-  site_.page("/third", "<script>Recommender.done()</script>");
-  load("/");
-  ASSERT_TRUE(waitFor("done"));
-  EXPECT_EQ(pages, 3);
-  EXPECT_EQ(site_.heads("/is-object").size(), 1U);
-  EXPECT_EQ(site_.heads("/is-undefined").size(), 1U);
+  EXPECT_THAT(told(), ElementsAre("", text + "||true|7", "300000 bytes"));
 }
 
 } // namespace

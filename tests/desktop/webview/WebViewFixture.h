@@ -3,6 +3,8 @@
 #ifndef WRENVALE_TESTS_DESKTOP_WEBVIEW_WEBVIEWFIXTURE_H
 #define WRENVALE_TESTS_DESKTOP_WEBVIEW_WEBVIEWFIXTURE_H
 
+#include <unistd.h>
+
 #include <algorithm>
 #include <functional>
 #include <map>
@@ -13,9 +15,8 @@
 #include <gmock/gmock.h>
 
 #include <QApplication>
-#include <QElapsedTimer>
+#include <QDeadlineTimer>
 #include <QEventLoop>
-#include <QPointer>
 #include <QTest>
 #include <QTimer>
 
@@ -24,24 +25,25 @@
 
 namespace wrenvale::platform {
 
+/// The engine does not run as root otherwise.
+inline const bool kHasNoSandbox = geteuid() == 0 && qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+
 /// Turns the event loop until `condition` holds; false when that took too long.
 inline bool waitUntil(const std::function<bool()>& condition,
                       std::chrono::milliseconds patience = std::chrono::seconds(20)) {
   QEventLoop loop;
   QTimer poll;
-  QElapsedTimer time;
-  bool holds = condition();
-  QObject::connect(&poll, &QTimer::timeout, &loop, [&] {
-    holds = condition();
-    if (holds || time.hasExpired(patience.count())) loop.quit();
-  });
-  time.start();
+  QObject::connect(&poll, &QTimer::timeout, &loop, &QEventLoop::quit);
   poll.start(5);
-  if (!holds) loop.exec();
-  return holds;
+  const QDeadlineTimer end(patience);
+  while (!condition()) {
+    if (end.hasExpired()) return false;
+    loop.exec();
+  }
+  return true;
 }
 
-/// Pages by their paths; what is not there is 404 with a page of its own.
+/// Pages by their paths; what is not there is 404 with a page of its own, and /hang never answers.
 class Site {
 public:
   using Script = LoopbackServer::Script;
@@ -62,10 +64,9 @@ public:
   }
   /// The heads of the requests for this path, in lower case.
   std::vector<std::string> heads(const std::string& path) const {
-    std::vector<std::string> result;
-    for (const auto& head : server_.requests())
-      if (head.starts_with("get " + path + " ")) result.push_back(head);
-    return result;
+    auto heads = server_.requests();
+    std::erase_if(heads, [&](auto& head) { return !head.starts_with("get " + path + " "); });
+    return heads;
   }
 
   static constexpr const char* kHTML = "Content-Type: text/html; charset=utf-8\r\n";
@@ -74,87 +75,101 @@ private:
   Script scriptFor(const std::string& head) {
     const auto path = head.empty() ? head : head.substr(4, head.find(' ', 4) - 4);
     const std::lock_guard lock(mutex_);
-    const auto found = scripts_.find(path);
-    if (found != scripts_.end()) return found->second;
-    return [](auto& client) { client.send(answerWith("<p>Nothing", "404 Not Found", kHTML)); };
+    return scripts_[scripts_.contains(path) ? path : "nothing"];
   }
 
   std::mutex mutex_;
-  std::map<std::string, Script> scripts_;
+  std::map<std::string, Script> scripts_ = {
+      {"/hang", [](auto& client) { client.hang(); }},
+      {"nothing",
+       [](auto& client) { client.send(answerWith("<p>Nothing", "404 Not Found", kHTML)); }}};
   LoopbackServer server_{[this](auto& client) { scriptFor(client.head())(client); }};
 };
 
-/// Writes down what the window reports; does what a test asks it to.
+/// Writes down what the window reports, and then does what a test asks it to.
 class PageDelegate : public RecommenderWindowDelegate {
 public:
   void didClearWindowObject(std::string_view origin) override {
-    calls.push_back("clear " + std::string(origin));
-    if (onClear) onClear();
+    note("clear " + std::string(origin));
   }
   std::optional<Value> invokeScriptMethod(std::string_view name,
                                           const std::vector<Value>& arguments) override {
     std::string call(name);
     for (const auto& argument : arguments)
       call += "," + text(argument);
-    calls.push_back(std::move(call));
-    return onInvoke ? onInvoke(name) : Value();
+    note(call);
+    return answer;
   }
   PolicyDecision decidePolicyForNavigationAction(const NavigationAction& action) override {
-    calls.push_back("go " + std::to_string(static_cast<int>(action.type)) + " " + action.url +
-                    (action.url == action.mainDocumentURL ? "" : " in " + action.mainDocumentURL));
-    return onDecide ? onDecide(action) : PolicyDecision::kUse;
+    note("go " + std::to_string(static_cast<int>(action.type)) + " " + action.url +
+         (action.url == action.mainDocumentURL ? "" : " in " + action.mainDocumentURL));
+    return decision;
   }
   void didFailProvisionalLoad(const LoadError& error, bool isMainFrame) override {
-    calls.push_back(isMainFrame ? "fail" : "fail in a frame");
     EXPECT_FALSE(error.description.empty());
     advice = error.advice;
-    if (onFail) onFail();
+    note(isMainFrame ? "fail" : "fail in a frame");
   }
-  void windowWillClose() override {
-    calls.push_back("close");
-    if (onClose) onClose();
-  }
+  void windowWillClose() override { note("close"); }
 
-  bool has(std::string_view call) const {
-    return std::find(calls.begin(), calls.end(), call) != calls.end();
-  }
+  auto count(std::string_view call) const { return std::ranges::count(calls, call); }
+  bool has(std::string_view call) const { return count(call) > 0; }
 
+  std::vector<std::string> calls;
+  std::string advice; // of the latest failure
+  std::optional<Value> answer = Value();
+  PolicyDecision decision = PolicyDecision::kUse;
+  std::function<void(const std::string& call)> onCall;
+
+private:
+  void note(const std::string& call) {
+    calls.push_back(call);
+    if (onCall) onCall(call);
+  }
   static std::string text(const Value& value) {
     if (const auto* boolean = value.boolean()) return *boolean ? "true" : "false";
     if (const auto* integer = value.integer()) return std::to_string(*integer);
     if (const auto* real = value.real()) return "real " + std::to_string(*real);
-    if (const auto* text = value.string())
-      return text->size() < 200 ? *text : std::to_string(text->size()) + " bytes";
-    return "null";
+    const auto text = value.string() ? *value.string() : "null";
+    return text.size() < 200 ? text : std::to_string(text.size()) + " bytes";
   }
-
-  std::vector<std::string> calls;
-  std::string advice; // of the latest failure
-  std::function<void()> onClear, onFail, onClose;
-  std::function<std::optional<Value>(std::string_view)> onInvoke;
-  std::function<PolicyDecision(const NavigationAction&)> onDecide;
 };
 
 class WebViewTest : public testing::Test {
 protected:
   WebViewTest() {
-    delegate_.onClear = [this] { publish(); };
+    onCall([](auto&) {});
   }
   ~WebViewTest() override {
     window_.reset();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
 
-  /// Has a new window load this page of the site's.
+  /// Has a new window load this page of the site's, or from elsewhere.
   void load(const std::string& path, std::chrono::seconds timeout = std::chrono::seconds(20)) {
     delegate_.calls.clear();
     window_ = windows().makeRecommenderWindow(delegate_);
-    window_->loadRequest(
-        {.url = site_.url(path), .applicationName = "Photo%20Tool/120 (null)", .timeout = timeout});
+    window_->loadRequest({.url = path.starts_with('/') ? site_.url(path) : path,
+                          .applicationName = "Photo%20Tool/120 (null)",
+                          .timeout = timeout});
   }
-  void show() {
+  /// Has a new window show this page, until there is a frame of it.
+  void show(const std::string& body) {
+    site_.page("/", "<!DOCTYPE html><body style='margin:0'>" + body +
+                        "<script>onload = () => requestAnimationFrame(() => requestAnimationFrame("
+                        "() => setTimeout(() => Recommender.done(), 50)))</script>");
+    load("/");
     window_->revealWebView();
     window_->makeKeyAndOrderFront();
+    ASSERT_TRUE(waitFor("done"));
+  }
+  static QWidget& view() { return *widget()->findChild<QWidget*>("webView")->focusProxy(); }
+  /// Has this done at each call of the delegate's, when the page has got its object.
+  void onCall(const std::function<void(const std::string& call)>& act) {
+    delegate_.onCall = [this, act](const std::string& call) {
+      if (call.starts_with("clear")) publish();
+      act(call);
+    };
   }
   void publish() { window_->webView()->setScriptObject("Recommender", methods_); }
   bool hasScriptObject() const {
@@ -163,12 +178,8 @@ protected:
   }
   /// Has a new window run this script in a page of its own, to its end.
   bool run(const std::string& script) {
-    site_.page("/", "<!DOCTYPE html><title>Test</title><body><script>\n"
-                    "const tell = (...values) => values.forEach(v => Recommender.log(v));\n"
-                    "try {" +
-                        script +
-                        "\n} catch (error) { tell('' + error); }\n"
-                        "</script><script>Recommender.done();</script>");
+    site_.page("/", "<script>const tell = value => Recommender.log(value);\ntry {" + script +
+                        "} catch (error) { tell('' + error) }\nRecommender.done()</script>");
     load("/");
     return waitFor("done");
   }
@@ -196,8 +207,8 @@ protected:
 
   Site site_;
   PageDelegate delegate_;
-  std::vector<ScriptMethod> methods_ = {{"log", 1},  {"pair:", 2}, {"give", 0},
-                                        {"done", 0}, {"act", 0},   {"setWidth:height", 2}};
+  std::vector<ScriptMethod> methods_ = {
+      {"log", 1}, {"pair:", 2}, {"give", 0}, {"done", 0}, {"act", 0}};
   std::unique_ptr<RecommenderWindow> window_;
 };
 
