@@ -20,7 +20,7 @@ th:first-child, td:first-child { text-align: left; white-space: normal }
 figure { display: inline-block; margin: 1rem 1.5rem 1rem 0 } figcaption { font-weight: 600 }
 svg { overflow: visible } svg text { font: 11px system-ui, sans-serif; fill: var(--faint) }
 .ours { stroke: var(--ours); fill: none; stroke-width: 2 } .reference { stroke: var(--other); fill: none; stroke-width: 2 }
-circle.ours { fill: var(--ours) } circle.reference { fill: var(--other) } .axis { stroke: var(--line) }
+circle.ours { fill: var(--ours) } circle.reference { fill: var(--other) } .axis { stroke: var(--line); fill: none }
 text.ours { fill: var(--ours); stroke: none } text.reference { fill: var(--other); stroke: none }
 """
 
@@ -130,6 +130,6 @@ def page(figures, rows, skipped):
 reference in the same run.</p>
 <table><thead><tr><th>figure<th>size<th>ours<th>reference<th>compared<th>budget<th></tr></thead>
 <tbody>{"".join(body)}</tbody></table>{notes}
-<h2>How it grows</h2>{"".join(plots)}
+<h2>How it grows</h2><p class="faint">All axes are logarithmic.</p>{"".join(plots)}
 </html>
 """

@@ -85,10 +85,10 @@ double bareClientMilliseconds() {
   return milliseconds;
 }
 
-// 200 earlier builds were asked about and disliked, and so was this one.
-Value ratings() {
+// This build was asked about and disliked, and so were those before it.
+Value ratings(int count) {
   Value::Dictionary builds;
-  for (std::int64_t build = kBuild; build > kBuild - kBuildsOnRecord; --build)
+  for (std::int64_t build = kBuild; build > kBuild - count; --build)
     builds[std::to_string(build)] =
         Value::Array{Value::Dictionary{{"History", Value::Array{std::int64_t{2}, std::int64_t{0}}},
                                        {"Triggered", true},
@@ -103,7 +103,7 @@ int main(int argc, char** argv) {
   const pid_t server = startServer();
   QApplication application(argc, argv);
   auto& framework = *new Framework(argv[1]);
-  framework.userDefaults.setObject(ratings(), keys::kVersionRatings);
+  framework.userDefaults.setObject(ratings(kBuildsOnRecord), keys::kVersionRatings);
   framework.userDefaults.synchronize();
 
   double launch = 0, before = 0;
@@ -123,9 +123,12 @@ int main(int argc, char** argv) {
     checks.push_back(checkTakes(framework, [&] { framework.service.reset(); }));
   say("reset.loaded", 0, {median(checks), bareClientMilliseconds()});
 
-  say("trigger.declines", kBuildsOnRecord,
-      timesInTurns(
-          2000, [&] { framework.service.triggerRatingWithModalAlert(); }, [] {}));
+  for (const int builds : {1, 20, kBuildsOnRecord, 900}) {
+    framework.userDefaults.setObject(ratings(builds), keys::kVersionRatings);
+    framework.userDefaults.synchronize();
+    const auto ask = [&] { framework.service.triggerRatingWithModalAlert(); };
+    say("trigger.declines", static_cast<std::size_t>(builds), timesInTurns(2000, ask, [] {}));
+  }
   kill(server, SIGTERM);
   waitpid(server, nullptr, 0);
   std::_Exit(0);
