@@ -3,6 +3,7 @@
 #include "core/Service.h"
 
 #include "base/Guard.h"
+#include "base/Log.h"
 #include "core/PersistedKeys.h"
 #include "core/Reset.h"
 #include "platform/Platform.h"
@@ -34,11 +35,16 @@ void Service::checkReset() {
   auto body = _platform.urlLoading.sendSynchronousRequest(request);
   if (!body) return;
   const auto document = _platform.json.JSONObjectWithData(std::move(*body));
-  if (!document) return;
+  if (!document) return log::say("reset", [] { return "the answer is no JSON document"; });
   applyReset(resetOutcome(*document, state));
 }
 
 void Service::applyReset(const ResetOutcome& outcome) {
+  log::say("reset", [&] {
+    return std::string(outcome.resetNumber ? "a new generation" : "no new generation") +
+           (outcome.showUpdateWindow ? "; the welcome window is owed"
+                                     : "; no window is owed by it");
+  });
   auto& mainQueue = _platform.mainQueue;
   const auto owe = [this] { oweUpdateWindow(); };
   if (outcome.resetNumber) {

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/Guard.h"
+#include "base/Log.h"
 #include "core/Identity.h"
 #include "core/PersistedKeys.h"
 #include "platform/Platform.h"
@@ -66,6 +67,10 @@ std::string Service::recommenderURL() const {
 }
 
 void Service::launchHandler() {
+  log::say("launch", [&] {
+    if (!bundleID()) return std::string("no CFBundleIdentifier: nothing is kept, nobody is asked");
+    return *bundleID() + ", build " + versionString() + (_firstRun ? ", first run" : "");
+  });
   guarded([&] {
     _platform.application.registerFont("DroidSans-Regular", "ttf");
     fileEarlierStoreRating();

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/Log.h"
 #include "platform/WebView.h"
 
 class QWidget;
@@ -39,8 +40,9 @@ struct NetModule {
   void (*cancelAllRequests)();
 };
 
-/// The module's one entry, named kNetModuleEntry; never null. Any thread but the main one.
-using NetModuleEntry = const NetModule* (*)();
+/// The module's one entry, named kNetModuleEntry; never null. `sink` takes what the module logs.
+/// Any thread but the main one.
+using NetModuleEntry = const NetModule* (*)(log::Sink sink);
 inline constexpr const char* kNetModuleEntry = "wrenvale_net_module";
 /// Where the module is, relative to the folder of the library.
 inline constexpr const char* kNetModuleFile = "wrenvale/libwrenvale-net.so";
@@ -67,8 +69,9 @@ public:
   virtual LoadedWebView makeWebView(WebViewDelegate& delegate, const PageRequest& request) = 0;
 };
 
-/// The module's one entry, named kWebViewModuleEntry; never null.
-using WebViewModuleEntry = WebViewModule* (*)();
+/// The module's one entry, named kWebViewModuleEntry; never null. `sink` takes what the module
+/// logs.
+using WebViewModuleEntry = WebViewModule* (*)(log::Sink sink);
 inline constexpr const char* kWebViewModuleEntry = "wrenvale_webview_module";
 /// Where the module is, relative to the folder of the library.
 inline constexpr const char* kWebViewModuleFile = "wrenvale/libwrenvale-webview.so";

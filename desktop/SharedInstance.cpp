@@ -12,6 +12,7 @@
 #include "core/BuildConfiguration.h"
 #include "core/Service.h"
 #include "desktop/qt/app/LaunchEvent.h"
+#include "desktop/qt/app/Logging.h"
 #include "platform/Platform.h"
 
 namespace wrenvale {
@@ -43,6 +44,7 @@ KVXWrenvaleController::KVXWrenvaleController()
 namespace {
 
 void load() {
+  platform::listenToLog();
 #ifndef NDEBUG
   if (!service().bundleID())
     std::fputs("Wrenvale: the host has no \"CFBundleIdentifier\", so nothing is kept and nobody is "

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "base/Guard.h"
+#include "base/Log.h"
 #include "core/Identity.h"
 #include "core/PersistedKeys.h"
 #include "platform/Platform.h"
@@ -56,10 +57,18 @@ void Service::_storeRateHistory(const std::vector<std::int64_t>& history, Date w
 // A trigger may come before the launch is handled; it then does the part of it that decides.
 bool Service::mayAskForRating() {
   return guarded([&] {
-    if (!bundleID()) return false; // the answer could not be kept
+    if (!bundleID()) { // the answer could not be kept
+      log::say("rating", [] { return "not due: the host has no CFBundleIdentifier"; });
+      return false;
+    }
     if (!_launchHandled) fileEarlierStoreRating();
     const Value ratings = _platform.userDefaults.objectForKey(keys::kVersionRatings);
-    return !rating::hasEntry(ratings, versionString());
+    const bool due = !rating::hasEntry(ratings, versionString());
+    log::say("rating", [&] {
+      const auto build = "build " + versionString();
+      return due ? "due: nothing is on record for " + build : "not due: " + build + " is on record";
+    });
+    return due;
   });
 }
 
@@ -83,8 +92,12 @@ bool Service::triggerRatingWithWindow(HostWindow* window, std::int64_t count,
   guarded([&] {
     const auto version = versionString();
     const Value counters = _platform.userDefaults.objectForKey(keys::kVersionCounters);
-    if (rating::counter(counters, version) == count)
-      shown = triggerRatingWithWindow(window, std::move(completitionHandler));
+    const auto calls = rating::counter(counters, version);
+    log::say("rating", [&] {
+      return "counted trigger: call " + std::to_string(calls) + ", asks at " +
+             std::to_string(count);
+    });
+    if (calls == count) shown = triggerRatingWithWindow(window, std::move(completitionHandler));
     _platform.userDefaults.setObject(rating::withNextCount(counters, version),
                                      keys::kVersionCounters);
   });

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/Guard.h"
+#include "base/Log.h"
 #include "core/PersistedKeys.h"
 #include "platform/Platform.h"
 #include "recommend/KVXAppRecommendation.h"
@@ -21,7 +22,10 @@ std::optional<RecommendationList> Service::_getRecommendations() const {
     auto body = _platform.urlLoading.sendSynchronousRequest(request);
     if (!body) return std::nullopt;
     auto document = _platform.json.JSONObjectWithData(std::move(*body));
-    if (!document) return std::nullopt;
+    if (!document) {
+      log::say("recommend", [] { return "the answer is no JSON document"; });
+      return std::nullopt;
+    }
     const recommend::Context context{
         .iconBase = _endpoints.icon(""),
         .host = {.bundleID = bundleID(), .bundleVersion = bundleVersion()},
@@ -32,6 +36,10 @@ std::optional<RecommendationList> Service::_getRecommendations() const {
         .system = &_platform.system};
     auto list =
         recommend::recommendations(recommend::RecommenderDocument(std::move(*document)), context);
+    log::say("recommend", [&] {
+      return list ? std::to_string(list->size()) + " to recommend"
+                  : "nothing: the document is not for this build of this host";
+    });
     if (!list) return std::nullopt;
     return RecommendationList(std::move_iterator(list->begin()), std::move_iterator(list->end()));
   });

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/Log.h"
 #include "welcome/KVXRecommenderWindowController.h"
 
 namespace wrenvale::welcome {
@@ -87,6 +88,7 @@ bool hasScriptOperation(std::string_view selector) {
 
 std::optional<Value> performScriptOperation(Controller& controller, std::string_view name,
                                             const Arguments& arguments) {
+  log::say("page", [&] { return "calls " + std::string(name); });
   for (const auto& operation : kOperations) {
     if (webScriptNameForSelector(operation.selector) != name) continue;
     if (arguments.size() >= operation.arguments()) return operation.perform(controller, arguments);
@@ -94,6 +96,7 @@ std::optional<Value> performScriptOperation(Controller& controller, std::string_
     padded.resize(operation.arguments());
     return operation.perform(controller, padded);
   }
+  log::say("page", [&] { return "there is no " + std::string(name); });
   return std::nullopt;
 }
 

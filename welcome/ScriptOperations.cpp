@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "base/Guard.h"
+#include "base/Log.h"
 #include "core/Identity.h"
 #include "core/Service.h"
 #include "platform/Platform.h"
@@ -56,6 +57,7 @@ void KVXRecommenderWindowController::javascript_setWidth(std::int64_t width, std
 bool KVXRecommenderWindowController::javascript_subscribe(const Value& address) {
   const auto* text = address.string();
   if (!text || !welcome::isEmailAddress(*text)) {
+    log::say("page", [] { return "subscribe refused: not an email address"; });
     showInvalidAddress();
     return false;
   }

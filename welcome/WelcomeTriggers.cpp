@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "base/Guard.h"
+#include "base/Log.h"
 #include "core/Identity.h"
 #include "core/PersistedKeys.h"
 #include "platform/Platform.h"
@@ -38,7 +39,13 @@ bool Service::showUpdateWindow() const {
 
 bool Service::triggerWelcomeWindow() {
   _welcomeTriggered = true;
-  if (!_firstRun && !showUpdateWindow()) return false;
+  const bool owed = showUpdateWindow();
+  log::say("welcome", [&] {
+    return _firstRun ? "due: first run"
+           : owed    ? "due: the server asked for it"
+                     : "not due: not the first run, and not owed";
+  });
+  if (!_firstRun && !owed) return false;
   guarded([&] { openWelcomeWindow(); });
   return true;
 }

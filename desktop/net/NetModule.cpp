@@ -26,10 +26,12 @@ Parts& parts() {
 
 } // namespace wrenvale::platform
 
-extern "C" WRENVALE_EXPORT const wrenvale::platform::NetModule* wrenvale_net_module();
+extern "C" WRENVALE_EXPORT const wrenvale::platform::NetModule*
+wrenvale_net_module(wrenvale::log::Sink sink);
 
-extern "C" const wrenvale::platform::NetModule* wrenvale_net_module() {
+extern "C" const wrenvale::platform::NetModule* wrenvale_net_module(wrenvale::log::Sink sink) {
   using wrenvale::platform::parts;
+  wrenvale::log::sink = sink;
   static const wrenvale::platform::NetModule module{
       .urlLoading = parts().urlLoading,
       .encryption = parts().encryption,

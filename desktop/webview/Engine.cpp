@@ -13,6 +13,8 @@
 #include <QQuickWindow>
 #include <QStringList>
 
+#include "base/Log.h"
+
 namespace wrenvale::platform {
 
 namespace {
@@ -70,8 +72,16 @@ bool hasSharedMemory() {
 } // namespace
 
 bool engineCanStart() {
-  return QOpenGLContext::globalShareContext() && isProgramThere() && isDataThere() &&
-         canBeSandboxed() && hasSharedMemory();
+  const char* const obstacle = !QOpenGLContext::globalShareContext()
+                                   ? "nothing to share drawing with"
+                               : !isProgramThere()  ? "its program is missing"
+                               : !isDataThere()     ? "its data is missing"
+                               : !canBeSandboxed()  ? "no sandbox: run as root, or no namespaces"
+                               : !hasSharedMemory() ? "no shared memory (/dev/shm)"
+                                                    : nullptr;
+  if (obstacle)
+    log::say("modules", [&] { return std::string("the web engine is not started: ") + obstacle; });
+  return !obstacle;
 }
 
 void chooseDrawing() {

@@ -12,6 +12,7 @@
 #include <QWebEngineScriptCollection>
 #include <QWebEngineSettings>
 
+#include "base/Log.h"
 #include "desktop/webview/QtVersions.h"
 
 namespace wrenvale::platform {
@@ -201,8 +202,12 @@ bool Page::perform(const QString& message, QString& result) {
 }
 
 // The host takes hints from the console and ignores the rest.
-void Page::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel, const QString& message, int,
-                                    const QString&) {
+void Page::javaScriptConsoleMessage(JavaScriptConsoleMessageLevel level, const QString& message,
+                                    int line, const QString& source) {
+  if (level == ErrorMessageLevel)
+    log::say("page", [&] {
+      return text(QUrl(source)) + ":" + std::to_string(line) + ": " + message.toStdString();
+    });
   const auto unasked = hints_.note(message);
   if (unasked && delegate_) decide(*unasked, platform::NavigationType::kLinkClicked, true);
 }

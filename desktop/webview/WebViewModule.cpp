@@ -30,9 +30,11 @@ private:
 
 } // namespace wrenvale::platform
 
-extern "C" WRENVALE_EXPORT wrenvale::platform::WebViewModule* wrenvale_webview_module();
+extern "C" WRENVALE_EXPORT wrenvale::platform::WebViewModule*
+wrenvale_webview_module(wrenvale::log::Sink sink);
 
-extern "C" wrenvale::platform::WebViewModule* wrenvale_webview_module() {
+extern "C" wrenvale::platform::WebViewModule* wrenvale_webview_module(wrenvale::log::Sink sink) {
+  wrenvale::log::sink = sink;
   static auto& module = *new wrenvale::platform::Module;
   return &module;
 }

@@ -40,6 +40,22 @@ TEST(Launch, FirstNormalAndUpdateLaunchDiffer) {
   EXPECT_TRUE(resets[2].userAgent.starts_with("Photo Tool/1205 123456789 Darwin/"));
 }
 
+TEST(Launch, SaysWhyToWhoeverAsks) {
+  const std::map<std::string, std::string> rows[] = {
+      {}, {{"WRENVALE_LOG", "1"}}, {{"QT_LOGGING_RULES", "wrenvale.*=true"}}};
+  const VendorServer server(kAutomatic);
+  for (const auto& environment : rows) {
+    const Home home;
+    home.setDefaults(kPhotoTool, {{"Recommender Last Version", 1203}});
+    const auto said = home.run(PHOTO_TOOL, {"--quit-after", "700"}, environment).errors;
+    for (const char* line : {"wrenvale.launch: com.example.phototool, build 1204\n",
+                             "/store/reset_US_en.json: status 200, 62 bytes\n",
+                             "wrenvale.reset: no new generation; the welcome window is owed\n",
+                             "wrenvale.welcome: not due: not the first run, and not owed\n"})
+      EXPECT_EQ(said.find(line) != std::string::npos, !environment.empty()) << said;
+  }
+}
+
 TEST(Launch, NothingThatAServerSendsHarmsTheHost) {
   const std::string bodies[] = {
       "<!DOCTYPE html><html><body>Sorry</body></html>",

@@ -6,6 +6,8 @@
 #include <csignal>
 #include <pthread.h>
 
+#include "base/Guard.h"
+#include "base/Log.h"
 #include "desktop/BlockedSignals.h"
 #include "desktop/linux/plist/PropertyList.h"
 
@@ -27,11 +29,9 @@ std::optional<DefaultsFile> fileAt(const std::filesystem::path& path) {
 std::optional<DefaultsFile::Merged> tryMerge(const DefaultsFile& file,
                                              const DefaultsMemory::Batch& batch,
                                              FileLock::Deadline deadline) noexcept {
-  try {
-    return file.merge(batch.changes, deadline, batch.known);
-  } catch (...) {
-    return std::nullopt;
-  }
+  auto merged = guarded([&] { return file.merge(batch.changes, deadline, batch.known); });
+  if (!merged) log::say("settings", [] { return "not written; tried again with the next change"; });
+  return merged;
 }
 
 } // namespace

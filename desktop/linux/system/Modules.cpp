@@ -4,6 +4,8 @@
 
 #include <dlfcn.h>
 
+#include "base/Log.h"
+
 namespace wrenvale::platform {
 
 std::string modulePath(std::string_view file) {
@@ -19,7 +21,9 @@ void* moduleEntry(const std::string& path, const char* function) {
   // An empty name would mean the program itself.
   if (path.empty()) return nullptr;
   void* library = ::dlopen(path.c_str(), RTLD_NOW | RTLD_LOCAL | RTLD_NODELETE);
-  return library ? ::dlsym(library, function) : nullptr;
+  if (library) return ::dlsym(library, function);
+  log::say("modules", [] { return std::string("not loaded: ") + ::dlerror(); });
+  return nullptr;
 }
 
 } // namespace wrenvale::platform

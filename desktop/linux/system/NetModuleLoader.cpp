@@ -1,5 +1,6 @@
 #include "desktop/linux/system/NetModuleLoader.h"
 
+#include "base/Log.h"
 #include "desktop/Modules.h"
 
 namespace wrenvale::platform {
@@ -8,7 +9,7 @@ namespace {
 
 const NetModule* loadModule(const std::string& path) {
   const auto entry = reinterpret_cast<NetModuleEntry>(moduleEntry(path, kNetModuleEntry));
-  return entry ? entry() : nullptr;
+  return entry ? entry(log::sink) : nullptr;
 }
 
 } // namespace

@@ -10,6 +10,7 @@
 #include <curl/curl.h>
 #include <openssl/ssl.h>
 
+#include "base/Log.h"
 #include "desktop/net/crypto/OpenSSLEncryption.h"
 
 namespace wrenvale::platform {
@@ -83,6 +84,16 @@ public:
     const bool isWhole = running == 0 && succeeded();
     curl_multi_remove_handle(multi_.get(), easy_.get());
     return isWhole && !mustEnd();
+  }
+
+  /// What came of it, in words.
+  std::string outcome() const {
+    if (stop_.stop_requested()) return "given up: the process ends";
+    if (Clock::now() >= deadline_) return "timed out";
+    if (result_ != CURLE_OK) return curl_easy_strerror(result_);
+    long status = 0;
+    curl_easy_getinfo(easy_.get(), CURLINFO_RESPONSE_CODE, &status);
+    return "status " + std::to_string(status) + ", " + std::to_string(body_.size()) + " bytes";
   }
 
   /// Where the answer sends the client, as an absolute address; empty for a real answer.
@@ -161,11 +172,12 @@ private:
     return bytes.size();
   }
 
-  bool succeeded() const {
+  bool succeeded() {
     int left = 0;
     const CURLMsg* message = curl_multi_info_read(multi_.get(), &left);
-    const bool isDone = message && message->msg == CURLMSG_DONE;
-    return isDone && message->data.result == CURLE_OK && isHeadWhole_;
+    if (!message || message->msg != CURLMSG_DONE) return false;
+    result_ = message->data.result;
+    return result_ == CURLE_OK && isHeadWhole_;
   }
 
   int timeLeft() const {
@@ -180,6 +192,7 @@ private:
   std::size_t headSize_ = 0;
   bool isHeadWhole_ = false; // libcurl takes one that breaks off for an answer
   std::string body_;
+  CURLcode result_ = CURLE_OK;
   const Easy easy_{curl_easy_init(), &curl_easy_cleanup};
   const Multi multi_{curl_multi_init(), &curl_multi_cleanup};
 };
@@ -196,7 +209,9 @@ std::optional<std::string> download(const URLRequest& request, const std::stop_t
   std::string url = request.url;
   for (int i = 0; i <= kMostRedirections && isLoadable(url); ++i) {
     Exchange exchange(url, headers.get(), stop, deadline);
-    if (!exchange.run()) return std::nullopt;
+    const bool isWhole = exchange.run();
+    log::say("net", [&] { return url.substr(0, url.find('?')) + ": " + exchange.outcome(); });
+    if (!isWhole) return std::nullopt;
     const auto redirection = exchange.redirection();
     if (redirection.empty()) return exchange.takeBody();
     if (isSecure(url) && !isSecure(redirection)) return std::nullopt;

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QOpenGLContext>
 
+#include "base/Log.h"
 #include "desktop/Modules.h"
 
 QT_BEGIN_NAMESPACE
@@ -39,10 +40,13 @@ void shareContexts() {
 WebViewModule* WebViewModuleLoader::module() {
   if (std::exchange(wasLookedFor_, true)) return module_;
   std::error_code error;
-  if (!std::filesystem::exists(path_, error)) return nullptr;
+  if (!std::filesystem::exists(path_, error)) {
+    log::say("modules", [this] { return "there is no " + path_; });
+    return nullptr;
+  }
   shareContexts();
   const auto entry = reinterpret_cast<WebViewModuleEntry>(moduleEntry(path_, kWebViewModuleEntry));
-  if (entry) module_ = entry();
+  if (entry) module_ = entry(log::sink);
   return module_;
 }
 

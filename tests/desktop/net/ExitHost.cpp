@@ -30,7 +30,7 @@ namespace {
 void workForEver(const char* modulePath, std::string_view address) {
   void* module = dlopen(modulePath, RTLD_NOW | RTLD_LOCAL);
   if (!module) std::abort();
-  const auto& parts = *reinterpret_cast<NetModuleEntry>(dlsym(module, kNetModuleEntry))();
+  const auto& parts = *reinterpret_cast<NetModuleEntry>(dlsym(module, kNetModuleEntry))(nullptr);
   while (true) {
     if (address.starts_with("http")) {
       parts.urlLoading.sendSynchronousRequest({.url = std::string(address)});
