@@ -40,9 +40,13 @@ std::string Service::versionString() const {
 
 const std::string& Service::appName() const {
   guarded([&] {
-    std::call_once(_appNameOnce, [&] {
-      _appName = localizedName(_platform.info, _platform.application).value_or("");
-    });
+    if (_hasAppName) return;
+    // Asks the host's translator, which may ask for the name itself: so outside the lock.
+    auto name = localizedName(_platform.info, _platform.application).value_or("");
+    const std::lock_guard lock(_appNameMutex);
+    if (_hasAppName) return;
+    _appName = std::move(name);
+    _hasAppName = true;
   });
   return _appName;
 }
@@ -75,6 +79,7 @@ void Service::launchHandler() {
     _platform.application.registerFont("DroidSans-Regular", "ttf");
     fileEarlierStoreRating();
     _launchHandled = true;
+    appName(); // here rather than in the background: a host's translator expects the main thread
     reset();
   });
 }

@@ -166,8 +166,9 @@ private:
   mutable std::mutex _purchaseRecordMutex;
   std::function<bool()> _purchaseRecord;
 
-  mutable std::once_flag _appNameOnce;
-  mutable std::string _appName;
+  mutable std::mutex _appNameMutex;
+  mutable std::atomic<bool> _hasAppName = false;
+  mutable std::string _appName; // constant once it is there
 };
 
 } // namespace wrenvale

@@ -110,6 +110,12 @@ TEST(SilentHost, LaunchesWithoutAnyCodeOfItsOwn) {
   }
 }
 
+TEST(UnloadingHost, GoesOn) {
+  const Home home;
+  const VendorServer server(std::string("[]"));
+  EXPECT_EQ(home.run(UNLOADING_HOST, {WRENVALE_LIBRARY}).status, 0);
+}
+
 TEST(CallingHost, FindsAllAsPromised) {
   const Home home;
   const VendorServer server(std::string(

@@ -32,6 +32,34 @@ TEST_F(Launch, FilesOneRecordForABuildAfterAStoreRating) {
   }
 }
 
+TEST_F(Launch, AsksTheHostForItsNameOnTheMainThread) {
+  fake.application.strings[{"InfoPlist", "CFBundleName"}] = "Fotowerkzeug";
+  start().launchHandler();
+  fake.application.strings.clear();
+  fake.queues.runAll();
+  const auto& agent = fake.urlLoading.requests.at(0).headers.at(0).second;
+  EXPECT_TRUE(agent.starts_with("Fotowerkzeug/120")) << agent;
+}
+
+// Its translator asks for the name while it is asked for it.
+TEST_F(Launch, AHostMayAskForTheNameItIsAskedFor) {
+  struct Asking final : platform::FakeApplication {
+    using FakeApplication::FakeApplication;
+    std::optional<std::string> localizedString(std::string_view, std::string_view) const override {
+      if (service && !std::exchange(asked, true)) service->appName();
+      return "Fotowerkzeug";
+    }
+    mutable bool asked = false;
+    const Service* service = nullptr;
+  } application(fake.system);
+  const platform::Platform asking{fake.platform,      fake.queues.main, fake.queues.global,
+                                  fake.queues.serial, application,      fake.windows,
+                                  fake.menus};
+  const Service host(asking, configuration());
+  application.service = &host;
+  EXPECT_EQ(host.appName(), "Fotowerkzeug");
+}
+
 TEST_F(Launch, GoesOnWithoutTheFont) {
   start();
   EXPECT_TRUE(fake.userDefaults.values.empty()) << "creating the service only reads";

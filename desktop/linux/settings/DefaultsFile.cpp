@@ -25,7 +25,7 @@ DefaultsContent unreadable(FileIdentity identity) {
   return {.state = state, .identity = identity};
 }
 
-// All of the file, which was `size` bytes long; nothing when it cannot be read.
+// All of the file, which is `size` bytes long; nothing when they cannot be read.
 std::optional<std::string> contentOf(int descriptor, std::size_t size) {
   std::string content(size, '\0');
   std::size_t filled = 0;
@@ -33,10 +33,9 @@ std::optional<std::string> contentOf(int descriptor, std::size_t size) {
     const auto count = ::read(descriptor, content.data() + filled, size - filled);
     if (count < 0 && errno == EINTR) continue;
     if (count < 0) return std::nullopt;
-    if (count == 0) break;
+    if (count == 0) return std::nullopt; // nobody knows what the rest was
     filled += static_cast<std::size_t>(count);
   }
-  content.resize(filled);
   return content;
 }
 
@@ -139,6 +138,12 @@ std::optional<Encoded> encode(const Value& dictionary, Value::Dictionary changes
   }
 }
 
+// A pipe or a device is not to get a lock beside it.
+bool isOtherThanAFile(const std::string& path) {
+  struct stat status = {};
+  return stat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode);
+}
+
 } // namespace
 
 DefaultsContent DefaultsFile::read() const {
@@ -149,14 +154,17 @@ std::optional<DefaultsFile::Merged> DefaultsFile::merge(const Value::Dictionary&
                                                         FileLock::Deadline deadline,
                                                         const DefaultsContent& known) const {
   const auto target = followLinks(path_);
-  if (!target || !makeFolder(folderOf(*target))) return std::nullopt;
+  if (!target || isOtherThanAFile(*target) || !makeFolder(folderOf(*target))) return std::nullopt;
   const FileLock lock(*target + ".lock", deadline);
   if (!lock.isHeld()) return std::nullopt;
 
   auto content = known.identity == identity() ? known : contentOfFile(*target);
   if (content.state == State::blocked) return std::nullopt;
-  if (content.state != State::damaged && isApplied(content.dictionary, changes))
+  if (content.state != State::damaged && isApplied(content.dictionary, changes)) {
+    // An earlier attempt may have written it and then failed to make it durable.
+    if (content.state == State::whole && !synchronizeFile(*target)) return std::nullopt;
     return Merged{std::move(content), {}};
+  }
 
   auto encoded = encode(content.dictionary, changes);
   if (!encoded) return std::nullopt;

@@ -91,8 +91,14 @@ std::optional<FileIdentity> replaceFile(const FileReplacement& replacement) {
   return FileIdentity::ofDescriptor(file.get());
 }
 
+bool synchronizeFile(const std::string& path) {
+  const FileDescriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
+  return file && fsync(file.get()) == 0 && synchronizeFolder(folderOf(path));
+}
+
 bool makeFolder(const std::string& path) {
   if (access(path.c_str(), F_OK) == 0) return true;
+  if (errno != ENOENT) return false;
   const auto parent = folderOf(path);
   if (parent != path && !makeFolder(parent)) return false;
   if (mkdir(path.c_str(), 0700) != 0) return errno == EEXIST;

@@ -24,6 +24,9 @@ struct FileReplacement {
 /// to a file with ".new" added to its name, and one left over from a crash is overwritten.
 std::optional<FileIdentity> replaceFile(const FileReplacement& replacement);
 
+/// Makes the file durable as it is, in its folder; false when it could not.
+bool synchronizeFile(const std::string& path);
+
 /// Makes the folder and those above it that are missing, for the user alone; false when it cannot.
 bool makeFolder(const std::string& path);
 

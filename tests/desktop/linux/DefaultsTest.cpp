@@ -12,15 +12,30 @@
 #include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include "desktop/linux/plist/PropertyList.h"
+#include "desktop/linux/settings/FileReplacement.h"
 #include "desktop/linux/settings/Files.h"
 #include "desktop/linux/settings/LinuxUserDefaults.h"
 #include "tests/desktop/linux/TemporaryFolder.h"
 
 extern "C" void __tsan_init() __attribute__((weak));
+
+namespace {
+std::atomic<bool> folderSyncFails = false;
+}
+
+// Takes the C library's place.
+extern "C" int fsync(int file) {
+  struct stat status = {};
+  const bool fails = folderSyncFails && fstat(file, &status) == 0 && S_ISDIR(status.st_mode);
+  if (!fails) return static_cast<int>(syscall(SYS_fsync, file));
+  errno = EIO;
+  return -1;
+}
 
 namespace wrenvale::platform {
 
@@ -93,6 +108,7 @@ TEST_F(DefaultsFileTest, tellsWhatIsInItsPlace) {
     EXPECT_EQ(merge({{"new", 1}}).has_value(), state != State::blocked) << name;
     EXPECT_EQ(holds({{"new", 1}}), state != State::blocked) << name;
     EXPECT_EQ(fs::exists(path_ + ".damaged"), state == State::damaged) << name;
+    EXPECT_EQ(fs::exists(path_ + ".lock"), state != State::blocked) << name;
     fs::remove_all(folder_.path("/config"));
   }
 }
@@ -180,6 +196,27 @@ TEST_F(DefaultsFileTest, leavesOutOnlyWhatDoesNotFit) {
   const auto merged = merge({{"large", eighths(2)}, {"larger", eighths(3)}, {"small", 1}});
   EXPECT_EQ(merged.value().tooLarge, std::vector<std::string>{"larger"});
   EXPECT_TRUE(holds({{"there", eighths(4)}, {"large", eighths(2)}, {"small", 1}}));
+}
+
+TEST_F(DefaultsFileTest, isDurableOnlyOnceItsFolderIs) {
+  folderSyncFails = true;
+  EXPECT_FALSE(merge({{"k", 1}}));
+  EXPECT_FALSE(merge({{"k", 1}})) << "it is there, but may be gone after a loss of power";
+  folderSyncFails = false;
+  EXPECT_TRUE(merge({{"k", 1}}));
+}
+
+TEST_F(DefaultsFileTest, isNotTakenForEmptyWhenItsEndCannotBeRead) {
+  const std::string shorterThanItSays = "/sys/kernel/mm/transparent_hugepage/enabled";
+  if (!fs::exists(shorterThanItSays)) GTEST_SKIP();
+  EXPECT_EQ(DefaultsFile(shorterThanItSays).read().state, State::blocked);
+}
+
+TEST(MakeFolder, DoesNotTryAPathThatCannotBe) {
+  std::string deep;
+  for (int i = 0; i < 60'000; ++i)
+    deep += "/a";
+  EXPECT_FALSE(makeFolder(deep)); // would take gigabytes
 }
 
 TEST_F(DefaultsFileTest, givesUpOnALockThatIsNotReleased) {
