@@ -97,7 +97,8 @@ TEST(Launch, ADownloadInFlightDoesNotHoldTheExitUp) {
 // Whether the host's launch asks the server, for every way of having an application object.
 TEST(SilentHost, LaunchesWithoutAnyCodeOfItsOwn) {
   const std::pair<const char*, bool> rows[] = {{"core", true},    {"splash", true}, {"early", true},
-                                               {"noloop", false}, {"none", false},  {"leak", true}};
+                                               {"noloop", false}, {"none", false},  {"leak", true},
+                                               {"static", true}};
   for (const auto& [kind, launches] : rows) {
     const Home home;
     const VendorServer server(std::string("[]"));

@@ -4,6 +4,7 @@
 //   early   an application object of its own for the arguments, gone before the real one
 //   noloop  an application object, but never an event loop
 //   none    no Qt at all
+//   static  an application object that is destroyed at exit
 //   leak    an application object that is never destroyed, and exit() from inside the loop
 // It ends by itself after half a second in the loop.
 
@@ -36,6 +37,10 @@ int main(int argc, char** argv) {
   if (kind == "early") QCoreApplication(argc, argv).applicationName();
   if (kind == "core" || kind == "early") {
     const QCoreApplication application(argc, argv);
+    return runLoop(false);
+  }
+  if (kind == "static") {
+    static const QApplication application(argc, argv);
     return runLoop(false);
   }
   auto* application = new QApplication(argc, argv);
