@@ -2,7 +2,10 @@
 
 #include <cerrno>
 #include <cstdio>
+#include <cstdlib>
+#include <ctime>
 
+#include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -12,6 +15,9 @@
 namespace wrenvale::platform {
 
 namespace {
+
+constexpr const char* kTemporary = ".new-";
+constexpr time_t kLongestWriting = 60; // seconds
 
 // A full disk shows as a short count first.
 bool writeAll(int descriptor, std::string_view content) {
@@ -69,6 +75,24 @@ bool putInPlace(const FileReplacement& replacement, const std::string& temporary
   return false;
 }
 
+bool isOld(const std::string& path) {
+  struct stat status = {};
+  return stat(path.c_str(), &status) == 0 && status.st_mtime < time(nullptr) - kLongestWriting;
+}
+
+// What processes that crashed left behind. A young file may be that of a process which is writing,
+// where the file system has no locks.
+void removeLeftovers(const std::string& beginning) {
+  const auto folder = folderOf(beginning);
+  DIR* const entries = opendir(folder.c_str());
+  if (!entries) return;
+  while (const auto* entry = readdir(entries)) {
+    const auto path = folder + "/" + entry->d_name;
+    if (path.starts_with(beginning) && isOld(path)) unlink(path.c_str());
+  }
+  closedir(entries);
+}
+
 // Some file systems have nothing to synchronize about a folder and say so with EINVAL.
 bool synchronizeFolder(const std::string& path) {
   const FileDescriptor folder(open(path.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
@@ -78,10 +102,9 @@ bool synchronizeFolder(const std::string& path) {
 } // namespace
 
 std::optional<FileIdentity> replaceFile(const FileReplacement& replacement) {
-  const auto temporary = replacement.target + ".new";
-  unlink(temporary.c_str());
-  const FileDescriptor file(
-      open(temporary.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, 0600));
+  removeLeftovers(replacement.target + kTemporary);
+  auto temporary = replacement.target + kTemporary + "XXXXXX";
+  const FileDescriptor file(mkostemp(temporary.data(), O_CLOEXEC));
   if (!file) return std::nullopt;
   if (!fill(file.get(), replacement) || !putInPlace(replacement, temporary)) {
     unlink(temporary.c_str());

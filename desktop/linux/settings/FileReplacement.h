@@ -20,8 +20,8 @@ struct FileReplacement {
 
 /// Makes the replacement durable; nothing when it could not, with the old file as it was. The new
 /// one has the old one's permissions and owner, or 0600 when there was none, and a later time of
-/// modification. One caller at a time for one target: the new content is first written beside it,
-/// to a file with ".new" added to its name, and one left over from a crash is overwritten.
+/// modification. The new content is first written beside it, to a file of its own with
+/// ".new-" in its name; one that a crash left there is removed by a later call.
 std::optional<FileIdentity> replaceFile(const FileReplacement& replacement);
 
 /// Makes the file durable as it is, in its folder; false when it could not.

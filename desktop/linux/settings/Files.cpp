@@ -1,3 +1,5 @@
+#include "desktop/linux/settings/Files.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <thread>
@@ -7,26 +9,9 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "desktop/linux/settings/Files.h"
-
 namespace wrenvale::platform {
 
 namespace {
-
-class Descriptor {
-public:
-  explicit Descriptor(int number)
-      : number_(number) {}
-  Descriptor(const Descriptor&) = delete;
-  Descriptor& operator=(const Descriptor&) = delete;
-  ~Descriptor() {
-    if (number_ >= 0) ::close(number_);
-  }
-  int number() const { return number_; }
-
-private:
-  const int number_;
-};
 
 // Checked before opening: opening alone would wake some devices, and failing to open a missing file
 // can take twice as long as stat().
@@ -53,13 +38,12 @@ ssize_t readSome(int file, char* to, std::size_t size) {
 // Ignores the stated size, which is wrong for the kernel's own files.
 std::optional<std::string> beginningOfFile(const char* path, std::size_t limit) {
   if (!isRegularFile(path)) return std::nullopt;
-  const Descriptor file(::open(path, O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-  if (file.number() < 0 || !isRegularFile(file.number())) return std::nullopt;
+  const FileDescriptor file(::open(path, O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+  if (!file || !isRegularFile(file.get())) return std::nullopt;
   std::string content;
   char block[4096];
   while (content.size() < limit) {
-    const auto count =
-        readSome(file.number(), block, std::min(sizeof block, limit - content.size()));
+    const auto count = readSome(file.get(), block, std::min(sizeof block, limit - content.size()));
     if (count < 0) return std::nullopt;
     if (count == 0) break;
     content.append(block, static_cast<std::size_t>(count));
@@ -112,15 +96,30 @@ bool acquire(int descriptor, FileLock::Deadline deadline) {
   return true;
 }
 
+bool isAt(const char* path, const FileDescriptor& file) {
+  const auto there = FileIdentity::ofPath(path), here = FileIdentity::ofDescriptor(file.get());
+  return there.error == 0 && there.device == here.device && there.inode == here.inode;
+}
+
+// Tries again with a lock whose file somebody removed or replaced meanwhile: others lock the new
+// one.
+FileDescriptor lockedFile(const char* path, FileLock::Deadline deadline) {
+  for (;;) {
+    FileDescriptor file(open(path, O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0600));
+    if (!file || !acquire(file.get(), deadline)) return FileDescriptor(-1);
+    if (isAt(path, file)) return file;
+    flock(file.get(), LOCK_UN);
+  }
+}
+
 } // namespace
 
 FileLock::FileLock(const std::string& path, Deadline deadline)
-    : file_(open(path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK | O_NOCTTY, 0600))
-    , isHeld_(file_ && acquire(file_.get(), deadline)) {}
+    : file_(lockedFile(path.c_str(), deadline)) {}
 
 // Unlocks before closing: a process forked meanwhile has the file open too.
 FileLock::~FileLock() {
-  if (isHeld_) flock(file_.get(), LOCK_UN);
+  if (isHeld()) flock(file_.get(), LOCK_UN);
 }
 
 } // namespace wrenvale::platform

@@ -65,11 +65,10 @@ public:
   FileLock& operator=(const FileLock&) = delete;
   ~FileLock();
 
-  bool isHeld() const { return isHeld_; }
+  bool isHeld() const { return static_cast<bool>(file_); }
 
 private:
-  const FileDescriptor file_;
-  const bool isHeld_;
+  const FileDescriptor file_; // none unless the lock is held
 };
 
 /// The first `limit` bytes of a regular file, or all of a shorter one. Nothing when there is no

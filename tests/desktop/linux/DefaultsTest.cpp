@@ -49,9 +49,13 @@ using State = DefaultsContent::State;
 
 const std::string kOldList = "<plist><dict><key>k</key><string>old</string></dict></plist>";
 
+int filesIn(const std::string& folder) {
+  const fs::directory_iterator files(folder);
+  return static_cast<int>(std::distance(begin(files), end(files)));
+}
+
 int threadCount() {
-  const fs::directory_iterator threads("/proc/self/task");
-  return static_cast<int>(std::distance(begin(threads), end(threads)));
+  return filesIn("/proc/self/task");
 }
 
 // Runs it in a process of its own, which ends as a program does.
@@ -144,14 +148,46 @@ TEST_F(DefaultsFileTest, looksDifferentAfterEachReplacement) {
 }
 
 TEST_F(DefaultsFileTest, keepsEveryByteOfEachDamagedFile) {
-  folder_.write("/config/com.example.host/defaults.plist.new", std::string(10000, 'x')); // a crash
+  folder_.write("/config/com.example.host/defaults.plist.new-abc", "a crash's");
+  fs::last_write_time(path_ + ".new-abc", fs::file_time_type::clock::now() - 2min);
   for (const std::string name : {".damaged", ".damaged-2", ".damaged-3"}) {
     put("was " + name);
     ASSERT_TRUE(merge({{"k", 1}}));
     EXPECT_TRUE(holds({{"k", 1}}));
     EXPECT_EQ(contentsOf(path_ + name), "was " + name);
   }
-  EXPECT_FALSE(fs::exists(path_ + ".new"));
+  EXPECT_FALSE(fs::exists(path_ + ".new-abc"));
+}
+
+TEST_F(DefaultsFileTest, staysWholeWhereLocksDoNothing) {
+  const auto writer = [&](char letter) {
+    const std::string content(100'000, letter);
+    for (int i = 0; i < 30; ++i)
+      EXPECT_TRUE(replaceFile({path_, content}));
+  };
+  fs::create_directories(parent_);
+  std::vector<std::thread> writers;
+  for (const char letter : {'a', 'b', 'c', 'd'})
+    writers.emplace_back(writer, letter);
+  for (auto& each : writers)
+    each.join();
+  const auto content = contentsOf(path_);
+  EXPECT_EQ(content, std::string(100'000, content[0]));
+  EXPECT_EQ(filesIn(parent_), 1);
+}
+
+TEST_F(DefaultsFileTest, locksTheFileThatOthersLockToo) {
+  fs::create_directories(parent_);
+  auto first = std::make_unique<FileLock>(path_ + ".lock", Clock::now());
+  std::thread holder([&] {
+    std::this_thread::sleep_for(20ms);
+    fs::remove(path_ + ".lock");
+    first.reset();
+  });
+  const FileLock second(path_ + ".lock", Clock::now() + 10s);
+  holder.join();
+  EXPECT_TRUE(second.isHeld());
+  EXPECT_FALSE(FileLock(path_ + ".lock", Clock::now()).isHeld());
 }
 
 TEST_F(DefaultsFileTest, staysWholeWhenTheDiskIsFull) {
@@ -167,7 +203,7 @@ TEST_F(DefaultsFileTest, staysWholeWhenTheDiskIsFull) {
       EXPECT_FALSE(merge({{"k", large}})) << room;
       setrlimit(RLIMIT_FSIZE, &before);
       EXPECT_EQ(contentsOf(path_), old) << room;
-      EXPECT_FALSE(fs::exists(path_ + ".new")) << room;
+      EXPECT_EQ(filesIn(parent_), 2) << room << ": it and its lock";
     }
   EXPECT_TRUE(merge({{"k", large}}));
 }
