@@ -16,9 +16,10 @@ Service::Service(const platform::Platform& platform, BuildConfiguration configur
     : _platform(platform)
     , _configuration(std::move(configuration))
     , _endpoints(_configuration)
-    // A host without an identifier keeps nothing, so each of its runs would be the first.
+    // A host that can keep nothing would have each of its runs be the first.
     , _firstRun(bundleID() &&
-                platform.userDefaults.objectForKey(keys::kRecommenderLastVersion).isNull())
+                platform.userDefaults.objectForKey(keys::kRecommenderLastVersion).isNull() &&
+                platform.userDefaults.canBeKept())
     , _localeSuffix(localeSuffix(platform.locale))
     , _machineModel(platform.system.sysctlbyname("hw.model"))
     , _macAppstoreID(appstoreIDFromInfo(infoValue(platform.info, info::kAppstoreID))) {}

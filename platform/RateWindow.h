@@ -25,8 +25,7 @@ public:
   /// closes when the answer is true.
   virtual bool windowShouldClose() = 0;
   /// The pointer entered or left a button.
-  virtual void mouseEntered(RateButton button) = 0;
-  virtual void mouseExited(RateButton button) = 0;
+  virtual void hovered(RateButton button, bool inside) = 0;
 };
 
 /// Hidden at first. Main thread only. Destroying it closes it without asking, ends its modal loop,

@@ -36,6 +36,11 @@ public:
   /// another process keeps it from that for longer than `patience`.
   virtual bool synchronize(std::chrono::milliseconds patience = std::chrono::seconds(10)) = 0;
 
+  /// Whether what is set can outlive this process, as far as that can be told without writing.
+  /// False where the settings may not be read, so that nobody knows what is in them, or not be
+  /// written.
+  virtual bool canBeKept() const = 0;
+
   /// Calls `observer` after each change of `key` made by this process, on the thread that made it,
   /// and after one made by another process, on the thread that noticed it.
   virtual ObserverID addObserver(std::string_view key, Observer observer) = 0;

@@ -52,8 +52,11 @@ public:
   bool windowShouldClose() override;
   /// The like and dislike buttons have a face each. Leaving one changes the face only while it is
   /// that button's, since the next button may have been entered before.
-  void mouseEntered(platform::RateButton button) override;
-  void mouseExited(platform::RateButton button) override;
+  void mouseEntered(platform::RateButton button);
+  void mouseExited(platform::RateButton button);
+  void hovered(platform::RateButton button, bool inside) override {
+    inside ? mouseEntered(button) : mouseExited(button);
+  }
 
   /// Action codes in the order in which they happened.
   const std::vector<std::int64_t>& rateHistory() const { return _rateHistory; }

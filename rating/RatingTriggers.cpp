@@ -57,8 +57,8 @@ void Service::_storeRateHistory(const std::vector<std::int64_t>& history, Date w
 // A trigger may come before the launch is handled; it then does the part of it that decides.
 bool Service::mayAskForRating() {
   return guarded([&] {
-    if (!bundleID()) { // the answer could not be kept
-      log::say("rating", [] { return "not due: the host has no CFBundleIdentifier"; });
+    if (!bundleID() || !_platform.userDefaults.canBeKept()) {
+      log::say("rating", [] { return "not due: the answer could not be kept"; });
       return false;
     }
     if (!_launchHandled) fileEarlierStoreRating();

@@ -15,6 +15,7 @@ public:
   Value objectForKey(std::string_view key) const override;
   void setObject(Value value, std::string_view key) override;
   bool synchronize(std::chrono::milliseconds patience = {}) override;
+  bool canBeKept() const override { return !unreadable; }
   ObserverID addObserver(std::string_view key, Observer observer) override;
   void removeObserver(ObserverID id) override;
 
@@ -23,6 +24,7 @@ public:
 
   Value::Dictionary values;
   bool diskFull = false; ///< synchronize() fails and makes nothing durable
+  bool unreadable = false;
 
 private:
   struct Observation {

@@ -124,11 +124,11 @@ void FakeRateWindow::press(RateButton button) {
 }
 
 void FakeRateWindow::hover(RateButton button) {
-  if (delegate) delegate->mouseEntered(button);
+  if (delegate) delegate->hovered(button, true);
 }
 
 void FakeRateWindow::leave(RateButton button) {
-  if (delegate) delegate->mouseExited(button);
+  if (delegate) delegate->hovered(button, false);
 }
 
 void FakeRateWindow::pressClose() {

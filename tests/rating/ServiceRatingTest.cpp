@@ -214,11 +214,16 @@ TEST_F(ServiceRating, WhatCannotBeShownOrKeptIsNotAsked) {
   fake.windows.hasScreen = true;
   EXPECT_TRUE(service->triggerRatingWithCompletitionHandler({}));
 
-  fake.info.erase("CFBundleIdentifier");
-  start();
-  EXPECT_FALSE(service->triggerRatingWithModalAlert());
-  EXPECT_FALSE(service->triggerRatingWithCompletitionHandler({}));
-  EXPECT_FALSE(service->triggerWelcomeWindow()) << "no run of it is the first";
+  fake.userDefaults.unreadable = true;
+  for (const auto& identifier : {Value("com.example.host"), Value()}) {
+    fake.info["CFBundleIdentifier"] = identifier;
+    forget();
+    start();
+    EXPECT_FALSE(service->triggerRatingWithModalAlert());
+    EXPECT_FALSE(service->triggerRatingWithCompletitionHandler({}));
+    EXPECT_FALSE(service->triggerWelcomeWindow()) << "no run of it is the first";
+    fake.userDefaults.unreadable = false;
+  }
 }
 
 } // namespace

@@ -150,6 +150,15 @@ DefaultsContent DefaultsFile::read() const {
   return contentOfFile(path_);
 }
 
+bool DefaultsFile::mayBeReplaced() const {
+  const auto target = followLinks(path_);
+  if (!target) return false;
+  auto folder = folderOf(*target);
+  while (eaccess(folder.c_str(), F_OK) != 0 && errno == ENOENT && folder != folderOf(folder))
+    folder = folderOf(folder);
+  return eaccess(folder.c_str(), W_OK | X_OK) == 0;
+}
+
 std::optional<DefaultsFile::Merged> DefaultsFile::merge(const Value::Dictionary& changes,
                                                         FileLock::Deadline deadline,
                                                         const DefaultsContent& known) const {

@@ -43,6 +43,9 @@ public:
 
   DefaultsContent read() const;
 
+  /// Whether its folder may be written to, or made where it is missing.
+  bool mayBeReplaced() const;
+
   struct Merged {
     DefaultsContent content;           // as it is on disk now
     std::vector<std::string> tooLarge; // keys left out: with them the file would be beyond bounds

@@ -40,7 +40,8 @@ void DefaultsMemory::markAllWritten() {
 
 void DefaultsMemory::adopt(DefaultsContent content) {
   wasRead_ = true;
-  if (content.state == DefaultsContent::State::blocked) {
+  isBlocked_ = content.state == DefaultsContent::State::blocked;
+  if (isBlocked_) {
     read_.identity = content.identity;
     return;
   }

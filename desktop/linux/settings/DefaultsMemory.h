@@ -37,6 +37,8 @@ public:
 
   /// Whether adopt() was called ever.
   bool wasRead() const { return wasRead_; }
+  /// The file may not be read, so the settings are those from before.
+  bool isBlocked() const { return isBlocked_; }
   /// The file that the settings were last taken from.
   const FileIdentity& identity() const { return read_.identity; }
   /// What was last found on disk or written there; as long as it is still there, nobody need read
@@ -54,6 +56,7 @@ private:
   };
 
   bool wasRead_ = false;
+  bool isBlocked_ = false;
   DefaultsContent read_;
   DefaultsContent lastKnown_;
   std::map<std::string, Change, std::less<>> changes_;

@@ -97,6 +97,16 @@ bool LinuxUserDefaults::synchronize(std::chrono::milliseconds patience) {
   return write(lock, Clock::now() + patience);
 }
 
+bool LinuxUserDefaults::canBeKept() const {
+  if (!file_) return false;
+  Lock lock(mutex_);
+  const auto changedKeys = refresh();
+  const bool isReadable = !memory_.isBlocked();
+  lock.unlock();
+  notify(changedKeys);
+  return isReadable && file_->mayBeReplaced();
+}
+
 LinuxUserDefaults::ObserverID LinuxUserDefaults::addObserver(std::string_view key,
                                                              Observer observer) {
   return observers_.add(key, std::move(observer));

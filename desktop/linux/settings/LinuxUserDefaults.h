@@ -48,6 +48,9 @@ public:
   /// Gives up after some seconds when another process that is stopped holds the file's lock.
   bool synchronize(std::chrono::milliseconds patience = std::chrono::seconds(10)) override;
 
+  /// Looks at the file and its folder only: a full disk is found out by writing.
+  bool canBeKept() const override;
+
   ObserverID addObserver(std::string_view key, Observer observer) override;
   void removeObserver(ObserverID id) override;
 

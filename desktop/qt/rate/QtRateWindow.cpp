@@ -50,11 +50,7 @@ RateWindowWidget::Events QtRateWindow::events() {
 }
 
 void QtRateWindow::report(RateButton button, bool inside) {
-  if (!open_ || !delegate_) return;
-  if (inside)
-    delegate_->mouseEntered(button);
-  else
-    delegate_->mouseExited(button);
+  if (open_ && delegate_) delegate_->hovered(button, inside);
 }
 
 bool QtRateWindow::askToClose() {

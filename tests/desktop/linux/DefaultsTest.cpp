@@ -218,6 +218,9 @@ TEST_F(DefaultsFileTest, leavesAloneWhatItMayReplaceButNotRead) {
   ASSERT_TRUE(user != 0 || seteuid(65534) == 0);
   EXPECT_EQ(file_.read().state, State::blocked);
   EXPECT_FALSE(merge({{"k", "new"}}));
+  EXPECT_FALSE(LinuxUserDefaults(path_).canBeKept());
+  EXPECT_TRUE(LinuxUserDefaults(parent_ + "/new/folder/file").canBeKept());
+  EXPECT_FALSE(LinuxUserDefaults(folder_.path("/new/folder/file")).canBeKept());
   ASSERT_TRUE(user != 0 || seteuid(user) == 0);
   chmod(path_.c_str(), 0644);
   EXPECT_NE(file_.identity(), unreadable) << "it is worth another look";

@@ -29,11 +29,8 @@ public:
     calls.push_back("should close");
     return !onClose || onClose();
   }
-  void mouseEntered(RateButton button) override {
-    calls.push_back("entered " + std::to_string(static_cast<int>(button)));
-  }
-  void mouseExited(RateButton button) override {
-    calls.push_back("exited " + std::to_string(static_cast<int>(button)));
+  void hovered(RateButton button, bool inside) override {
+    calls.push_back((inside ? "entered " : "exited ") + std::to_string(static_cast<int>(button)));
   }
 
   std::vector<std::string> calls;
