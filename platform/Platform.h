@@ -3,6 +3,9 @@
 #ifndef WRENVALE_PLATFORM_PLATFORM_H
 #define WRENVALE_PLATFORM_PLATFORM_H
 
+#include <memory>
+#include <string_view>
+
 #include "platform/Application.h"
 #include "platform/Menus.h"
 #include "platform/Net.h"
@@ -43,6 +46,10 @@ struct Platform : SystemParts {
 
 /// The parts that this system offers without a toolkit; made on the first call.
 const SystemParts& builtInSystemParts();
+
+/// The settings of the host with this identifier, whoever asks. They keep nothing when the
+/// identifier is no plain name.
+std::unique_ptr<UserDefaults> makeUserDefaults(std::string_view bundleIdentifier);
 
 /// The platform that this library was built for; made on the first call, before `main` as a rule.
 /// It starts no thread, writes no file and creates no toolkit object until something needs one.

@@ -1,7 +1,12 @@
-// What the kit decides without a socket.
+// What the kit decides without a socket, and the state of a host that it changes.
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
+#include <tuple>
+
+#include "tests/desktop/linux/TemporaryFolder.h"
+#include "tests/tools/KitProcess.h"
 #include "tools/wrenvale/serve/ListenAddress.h"
 #include "tools/wrenvale/serve/RedirectPage.h"
 #include "tools/wrenvale/serve/RequestLog.h"
@@ -56,6 +61,36 @@ TEST(RedirectPage, SaysWhereTheAddressLeads) {
     ASSERT_EQ(page.has_value(), words != nullptr) << path;
     EXPECT_TRUE(!page || page->find(words) != std::string::npos) << path << page.value_or("");
   }
+}
+
+TEST(State, IsShownAndChanged) {
+  const platform::TemporaryFolder home;
+  setenv("XDG_CONFIG_HOME", home.path().c_str(), 1);
+  home.write("/com.b/defaults.plist/a folder", "");
+  const std::tuple<const char*, int, const char*> rows[] = {
+      {"com.a", 0, "Nothing is on record: the next launch is a first one.\n"},
+      {"com.a set 'Version Ratings' '{\"7\": [2.5, \"x\", false]}'", 0, ""},
+      {"com.a set 'Show Update Window' true", 0, ""},
+      {"com.a set 'Version Counters' '[null]'", 2, "no null within a value"},
+      {"com.a set 'Rate Version' 7x", 2, "no JSON value: 7x"},
+      {"com.a set Purchases '[]'", 2, "keeps no \"Purchases\"; its keys are\n  Recommender Last"},
+      {"com.a show", 0,
+       "Show Update Window        true\nVersion Ratings           {\"7\":[2.5,\"x\",false]}\n"},
+      {"com.a set 'Version Ratings' null", 0, ""},
+      {"com.a --json", 0, "{\n  \"Show Update Window\": true\n}\n"},
+      {"com.a reset", 0, ""},
+      {"com.a show more", 2, "show, reset, or set"},
+      {"com.a", 0, "Nothing is on record"},
+      {"com.b", 1, "cannot be read or written"},
+      {"../com.a", 1, "cannot be read or written"},
+      {"", 2, "a bundle identifier is needed"},
+  };
+  for (const auto& [arguments, status, says] : rows) {
+    const auto run = tests::runKit(std::string("state ") + arguments);
+    EXPECT_EQ(run.status, status) << arguments << run.text;
+    EXPECT_NE(run.text.find(says), std::string::npos) << arguments << run.text;
+  }
+  unsetenv("XDG_CONFIG_HOME");
 }
 
 } // namespace

@@ -25,6 +25,7 @@ int inbox(int argc, char** argv);
 int keygen(int argc, char** argv);
 int preview(int argc, char** argv);
 int serve(int argc, char** argv);
+int state(int argc, char** argv);
 
 } // namespace wrenvale::kit
 

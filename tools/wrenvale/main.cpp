@@ -18,6 +18,7 @@ constexpr Command kCommands[] = {
     {"keygen", "make a key pair for newsletter subscriptions", keygen},
     {"preview", "show what a host would recommend, and why", preview},
     {"serve", "serve a folder as the maker's web server, for development", serve},
+    {"state", "show or change what is on record for a user of a host", state},
 };
 
 void printUsage(std::FILE* out) {

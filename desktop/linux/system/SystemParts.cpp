@@ -44,6 +44,10 @@ Parts& parts() {
 
 } // namespace
 
+std::unique_ptr<UserDefaults> makeUserDefaults(std::string_view bundleIdentifier) {
+  return std::make_unique<LinuxUserDefaults>(defaultsFilePath(bundleIdentifier));
+}
+
 const SystemParts& builtInSystemParts() {
   return parts().all;
 }
