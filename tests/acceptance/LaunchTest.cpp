@@ -126,11 +126,6 @@ TEST(CallingHost, FindsAllAsPromised) {
   EXPECT_EQ(first.output, "identifier before main: com.example.plainhost\n"
                           "name: Plain Host\n"
                           "build: 7\n"
-                          "threads before the loop: 1\n"
-                          "libQt6Network: not mapped\n"
-                          "libcrypto: not mapped\n"
-                          "libssl: not mapped\n"
-                          "libwrenvale-net: not mapped\n"
                           "alert: not shown\n");
   const auto defaults = home.defaults(kPlainHost);
   EXPECT_EQ(defaults.find("Purchases"), Value(Value::Array{"product.one"}));

@@ -20,9 +20,6 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <thread>
 
@@ -41,16 +38,6 @@ auto& service() {
 
 // Initialised before `main`, like any global object of a host.
 const std::string identifierBeforeMain = service().bundleID().value_or("(none)");
-
-auto threads() {
-  const std::filesystem::directory_iterator tasks("/proc/self/task");
-  return std::distance(begin(tasks), end(tasks));
-}
-
-bool isMapped(const char* library) {
-  std::ifstream maps("/proc/self/maps");
-  return std::string(std::istreambuf_iterator<char>(maps), {}).find(library) != std::string::npos;
-}
 
 void print(const char* name, const std::string& value) {
   std::printf("%s: %s\n", name, value.c_str());
@@ -86,12 +73,7 @@ int inspect(int argc, char** argv) {
   print("identifier before main", identifierBeforeMain);
   print("name", service().appName());
   print("build", std::to_string(service().bundleVersion()));
-  const auto threadsBefore = threads();
   QCoreApplication application(argc, argv);
-  // Whatever threads Qt itself started are there in a host without the framework too.
-  print("threads before the loop", std::to_string(threads() - threadsBefore + 1));
-  for (const char* library : {"libQt6Network", "libcrypto", "libssl", "libwrenvale-net"})
-    print(library, isMapped(library) ? "mapped" : "not mapped");
   print("alert", service().triggerRatingWithModalAlert() ? "shown" : "not shown");
 
   auto& defaults = UserDefaults::standardUserDefaults();
