@@ -14,9 +14,9 @@ namespace wrenvale::platform {
 /// Whether the host has a QApplication, without which no widget may exist.
 bool hasWindows();
 
-/// Registers the framework's font for this process, unless there is one of its name. Qt builds its font database anew then,
-/// which takes milliseconds: so this waits for the first window that draws with the font. A failure
-/// is ignored; texts are drawn in another font then.
+/// Registers the framework's font for this process, unless there is one of its name. Qt builds its
+/// font database anew then, which takes milliseconds: so this waits for the first window that draws
+/// with the font. A failure is ignored; texts are drawn in another font then.
 void registerFontWithQt();
 
 /// How long one of the framework's animations takes, in milliseconds; 0 when the desktop's style

@@ -45,7 +45,8 @@ RateWindowWidget::RateWindowWidget(Events events, const QString& appName)
     , events_(std::move(events))
     , appName_(appName)
     , ui_(std::make_unique<Ui::RateWindow>())
-    , push_((registerFontWithQt(), ui_->setupUi(this), new PushTransition(*ui_->bottomContainerView))) {
+    , push_((registerFontWithQt(), ui_->setupUi(this),
+             new PushTransition(*ui_->bottomContainerView))) {
   view_ = ui_->bottomContainerView->currentWidget();
   ownRules_ = styleSheet();
   setObjectName("Rate Window");
