@@ -19,7 +19,7 @@ function(wrenvale_library target public_key_source)
   target_link_libraries(${target} PRIVATE wrenvale_flags wrenvale_logic wrenvale_linux wrenvale_qt)
   # Its threads and exit handlers outlive a host that unloads it: it stays.
   target_link_options(${target} PRIVATE
-    -Wl,--as-needed -Wl,-Bsymbolic-functions -Wl,-z,nodelete)
+    -Wl,--as-needed -Wl,--gc-sections -Wl,-Bsymbolic-functions -Wl,-z,nodelete)
   wrenvale_exports(${target} "${PROJECT_SOURCE_DIR}/cmake/Wrenvale.map")
   set_target_properties(${target} PROPERTIES
     OUTPUT_NAME wrenvale
