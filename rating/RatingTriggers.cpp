@@ -36,6 +36,11 @@ void removeAfterAnimation(const SharedOverlay& overlay, platform::Queue& mainQue
   });
 }
 
+bool mayNotAsk(const char* reason) {
+  log::say("rating", [&] { return std::string("not due: ") + reason; });
+  return false;
+}
+
 } // namespace
 
 // A user who rated any earlier build in the store is not asked again for this one.
@@ -57,18 +62,13 @@ void Service::_storeRateHistory(const std::vector<std::int64_t>& history, Date w
 // A trigger may come before the launch is handled; it then does the part of it that decides.
 bool Service::mayAskForRating() {
   return guarded([&] {
-    if (!bundleID() || !_platform.userDefaults.canBeKept()) {
-      log::say("rating", [] { return "not due: the answer could not be kept"; });
-      return false;
-    }
+    if (!bundleID()) return mayNotAsk("the host has no CFBundleIdentifier");
     if (!_launchHandled) fileEarlierStoreRating();
     const Value ratings = _platform.userDefaults.objectForKey(keys::kVersionRatings);
-    const bool due = !rating::hasEntry(ratings, versionString());
-    log::say("rating", [&] {
-      const auto build = "build " + versionString();
-      return due ? "due: nothing is on record for " + build : "not due: " + build + " is on record";
-    });
-    return due;
+    if (rating::hasEntry(ratings, versionString())) return mayNotAsk("this build is on record");
+    if (!_platform.userDefaults.canBeKept()) return mayNotAsk("the answer could not be kept");
+    log::say("rating", [] { return "due: nothing is on record for this build"; });
+    return true;
   });
 }
 

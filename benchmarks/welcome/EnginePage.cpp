@@ -7,10 +7,12 @@
 
 #include <wrenvale/Export.h>
 
+#include "benchmarks/welcome/Heartbeat.h"
 #include "benchmarks/welcome/Moment.h"
 
 WRENVALE_EXPORT int showPage(long long asked, const char* started, const char* address) {
   using namespace std::chrono_literals;
+  wrenvale::benchmark::Heartbeat heartbeat(asked);
   QWebEngineProfile profile;
   profile.setHttpCacheType(QWebEngineProfile::NoCache);
   QWebEngineView view;
@@ -19,6 +21,7 @@ WRENVALE_EXPORT int showPage(long long asked, const char* started, const char* a
   view.resize(640, 480);
   QObject::connect(&page, &QWebEnginePage::titleChanged, [&](const QString& title) {
     if (title != "shown") return;
+    std::printf("busy %.2f\n", heartbeat.longestPause());
     view.show();
     wrenvale::benchmark::printShown(asked, started);
     QCoreApplication::exit();

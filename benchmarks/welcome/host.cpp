@@ -5,9 +5,7 @@
 //   main thread was busy in a row before the window was shown, and after;
 //   reopen: closes the window each time and asks for it again, twenty times.
 
-#include <algorithm>
 #include <string_view>
-#include <utility>
 
 #include <QApplication>
 #include <QTimer>
@@ -15,6 +13,7 @@
 
 #include <wrenvale/KVXWrenvale.h>
 
+#include "benchmarks/welcome/Heartbeat.h"
 #include "benchmarks/welcome/Moment.h"
 
 namespace {
@@ -23,31 +22,6 @@ using namespace wrenvale::benchmark;
 using namespace std::chrono_literals;
 
 constexpr int kReopenings = 20;
-
-// How long the event loop did not turn, at the longest.
-class Heartbeat {
-public:
-  Heartbeat() {
-    QObject::connect(&timer_, &QTimer::timeout, [this] { beat(); });
-    timer_.start(1);
-  }
-  /// In milliseconds, since the last time this was asked.
-  double longestPause() {
-    beat();
-    return std::exchange(longest_, 0);
-  }
-
-private:
-  void beat() {
-    const auto time = now();
-    longest_ = std::max(longest_, static_cast<double>(time - last_) / 1e6);
-    last_ = time;
-  }
-
-  QTimer timer_;
-  long long last_ = now();
-  double longest_ = 0;
-};
 
 class Watch : public QObject {
 public:
