@@ -1,5 +1,4 @@
 // The least that a library can be which starts by itself.
-namespace {
-[[maybe_unused]] const bool kLoaded = [] { return true; }();
-} // namespace
+__attribute__((constructor)) static void start() {}
+
 extern "C" __attribute__((visibility("default"))) void emptyLibrary() {}

@@ -109,6 +109,9 @@ FileDescriptor lockedFile(const char* path, FileLock::Deadline deadline) {
     if (!file || !acquire(file.get(), deadline)) return FileDescriptor(-1);
     if (isAt(path, file)) return file;
     flock(file.get(), LOCK_UN);
+    // Not for ever: a file system may give a file another number each time.
+    if (std::chrono::steady_clock::now() >= deadline) return FileDescriptor(-1);
+    std::this_thread::sleep_for(kPause);
   }
 }
 
